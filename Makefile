@@ -1,0 +1,52 @@
+# Two commands for a person: `make run` shows what the mapping does, `make test` builds and runs every test. Both install
+# what is missing on Debian 12, as root or with sudo.
+
+JOBS := $(shell nproc)
+SOURCES := $(shell git ls-files '*.cpp' '*.h' 2>/dev/null)
+export CCACHE_DIR ?= $(CURDIR)/build/ccache
+export CTEST_PARALLEL_LEVEL ?= $(JOBS)
+
+run_packages := g++ cmake ninja-build pkg-config ccache libxml2-dev nlohmann-json3-dev libcli11-dev \
+	libyang2-dev
+test_packages := $(run_packages) clang clang-format clang-tidy libclang-rt-14-dev binutils git \
+	libgtest-dev libyang2-tools
+
+.PHONY: run test format format-check tidy generate test-release test-sanitize clean
+
+run:
+	scripts/install-packages $(run_packages)
+	cmake --preset run
+	cmake --build --preset run -j $(JOBS)
+	scripts/show-examples build/run/bin/ocbgp
+
+# Everything that has to hold: formatted, generated sources fresh, no warning of either compiler or of clang-tidy, all
+# tests, and all tests again under the address and undefined-behaviour sanitizers.
+test:
+	scripts/install-packages $(test_packages)
+	$(MAKE) format-check
+	$(MAKE) test-release
+	$(MAKE) tidy
+	$(MAKE) test-sanitize
+
+test-release test-sanitize: test-%:
+	cmake --preset $*
+	cmake --build --preset $* -j $(JOBS)
+	ctest --preset $*
+
+format-check:
+	clang-format --dry-run -Werror $(SOURCES)
+
+format:
+	clang-format -i $(SOURCES)
+
+# The library's sources and the host's, not the tests.
+tidy:
+	cmake --preset sanitize
+	run-clang-tidy -quiet -j $(JOBS) -p build/sanitize '(mapping/src|host)/.*\.cpp$$'
+
+generate:
+	cmake --preset release
+	cmake --build --preset release --target generate
+
+clean:
+	rm -rf build
