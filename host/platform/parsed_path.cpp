@@ -1,0 +1,86 @@
+#include "parsed_path.h"
+
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <string_view>
+#include <unordered_map>
+
+#include "names.h"
+
+namespace platform {
+
+namespace {
+
+// Takes the first element off `rest`. False if it is not one.
+bool next_element(std::string_view &rest, PathElement &element)
+{
+    const size_t end = rest.find('/');
+    std::string_view name = rest.substr(0, end);
+    rest = end == std::string_view::npos ? std::string_view() : rest.substr(end + 1);
+    if (end != std::string_view::npos && rest.empty()) return false;  // ends with "/"
+
+    std::string_view key;
+    if (const size_t bracket = name.find('['); bracket != std::string_view::npos) {
+        if (!name.ends_with(']')) return false;
+        key = name.substr(bracket + 1, name.size() - bracket - 2);
+        name = name.substr(0, bracket);
+        if (key.empty()) return false;
+    }
+    if (name.empty()) return false;
+    element = {intern(name), key.empty() ? nullptr : intern(key)};
+    return true;
+}
+
+ParsedPath parsed(const char *path)
+{
+    ParsedPath result{path};
+    std::string_view rest = result.text;
+    if (rest.starts_with('/')) rest.remove_prefix(1);
+    do {
+        PathElement element;
+        if (!next_element(rest, element)) return result;
+        result.elements.push_back(element);
+    } while (!rest.empty());
+    result.is_path = true;
+    return result;
+}
+
+// A path is looked for by its address first, since most are literals; its text is compared all the same.
+class Cache {
+public:
+    const ParsedPath &find(const char *path)
+    {
+        const ParsedPath *&slot = by_address_[reinterpret_cast<uintptr_t>(path) / 8 % by_address_.size()];
+        if (slot == nullptr || std::strcmp(slot->text.c_str(), path) != 0) slot = &find_by_text(path);
+        return *slot;
+    }
+
+private:
+    // More than the mapping has: paths that a caller makes up do not pile up.
+    static constexpr size_t limit = 4096;
+
+    const ParsedPath &find_by_text(const char *path)
+    {
+        if (auto found = by_text_.find(path); found != by_text_.end()) return *found->second;
+        if (by_text_.size() >= limit) {
+            by_text_.clear();
+            by_address_ = {};
+        }
+        auto fresh = std::make_unique<ParsedPath>(parsed(path));
+        const std::string_view text = fresh->text;
+        return *by_text_.emplace(text, std::move(fresh)).first->second;
+    }
+
+    std::array<const ParsedPath *, 1024> by_address_ = {};
+    std::unordered_map<std::string_view, std::unique_ptr<ParsedPath>> by_text_ = {};
+};
+
+thread_local Cache cache;
+
+}  // namespace
+
+const ParsedPath &parse_path(const char *path) { return cache.find(path); }
+
+}  // namespace platform

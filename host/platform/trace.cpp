@@ -1,0 +1,93 @@
+#include "trace.h"
+
+#include <atomic>
+#include <cstdarg>
+#include <cstdio>
+
+#include "vmf_map_platform.h"
+
+namespace platform {
+
+void TraceBuffer::append(std::string_view line)
+{
+    if (listener) listener(line);
+    const std::lock_guard lock(mutex_);
+    if (capacity_ == 0) return;
+    if (lines_.size() == capacity_) {
+        lines_.pop_front();
+        lost_++;
+    }
+    lines_.emplace_back(line);
+}
+
+std::vector<std::string> TraceBuffer::take()
+{
+    const std::lock_guard lock(mutex_);
+    std::vector<std::string> taken(lines_.begin(), lines_.end());
+    lines_.clear();
+    return taken;
+}
+
+size_t TraceBuffer::lost() const
+{
+    const std::lock_guard lock(mutex_);
+    return lost_;
+}
+
+void connect(VmfDebugContext &debug, Log &log)
+{
+    debug.err_filter = &log.err;
+    debug.dbg_filter = &log.dbg;
+    debug.trc_filter = &log.trc;
+    debug.trace_buffer = log.trace;
+    debug.trace_enabled = log.trace != nullptr ? 1 : 0;
+}
+
+}  // namespace platform
+
+using platform::LogFilter;
+using platform::TraceBuffer;
+
+extern "C" {
+
+uint32_t vmf_debug_should_log(const VmfDebugContext *debug_ctx, uint32_t level)
+{
+    if (debug_ctx == nullptr) return 0;
+    const void *filter = nullptr;
+    switch (level) {
+    case 0: filter = debug_ctx->err_filter; break;
+    case 2: filter = debug_ctx->dbg_filter; break;
+    case 3: filter = debug_ctx->trc_filter; break;
+    default: return 0;
+    }
+    return filter != nullptr && static_cast<const LogFilter *>(filter)->enabled ? 1 : 0;
+}
+
+void _kos_dt_log_filter_adv(void *filter, uint64_t /*zero1*/, uint64_t /*zero2*/, uint64_t /*zero3*/,
+                            uint64_t /*zero4*/, uint64_t /*zero5*/, uint32_t *site, const char *format, ...)
+{
+    const auto *log = static_cast<const LogFilter *>(filter);
+    if (log == nullptr || !log->write) return;
+    va_list arguments;
+    va_start(arguments, format);
+    va_list again;
+    va_copy(again, arguments);
+    std::string line(static_cast<size_t>(std::vsnprintf(nullptr, 0, format, again)), '\0');
+    va_end(again);
+    std::vsnprintf(line.data(), line.size() + 1, format, arguments);
+    va_end(arguments);
+    log->write(line, site);
+}
+
+uint32_t ret_nc_vmf_trace_index_incr()
+{
+    static std::atomic<uint32_t> index{0};
+    return index.fetch_add(1, std::memory_order_relaxed) + 1;
+}
+
+void _lstrace(void *trace_buffer, uint64_t /*flags*/, const char *text)
+{
+    if (trace_buffer != nullptr) static_cast<TraceBuffer *>(trace_buffer)->append(text);
+}
+
+}  // extern "C"

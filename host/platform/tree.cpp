@@ -1,0 +1,359 @@
+#include "tree.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+#include "array_index.h"
+#include "names.h"
+#include "observer.h"
+#include "parsed_path.h"
+#include "pool.h"
+#include "vmf_map_platform.h"
+
+namespace platform {
+
+// ---- Records --------------------------------------------------------------------------------
+
+static bool has(const Datatree &node, uint8_t bit) { return (node.present[0] & bit) != 0; }
+
+const char *tag_of(const Datatree &node) { return has(node, VMF_DT_TAG) ? node.tag : nullptr; }
+const char *value_of(const Datatree &node) { return has(node, VMF_DT_VALUE) ? node.value : nullptr; }
+const char *namespace_of(const Datatree &node) { return has(node, VMF_DT_NAMESPACE) ? node.namespace_ : nullptr; }
+const char *data_namespace_of(const Datatree &node) { return node.data_namespace; }
+bool has_operation(const Datatree &node) { return has(node, VMF_DT_OPERATION); }
+
+// The second byte of presence is the framework's own.
+static constexpr uint8_t selected = 1;
+bool is_selected(const Datatree &node) { return (node.present[1] & selected) != 0; }
+
+std::span<Datatree> children_of(const Datatree &node)
+{
+    if (!has(node, VMF_DT_SUBTREES) || node.subtrees == nullptr || node.subtree_count < 1) return {};
+    return {node.subtrees, static_cast<size_t>(node.subtree_count)};
+}
+
+// Doubles the array, so that adding a child costs the same however many there are. What room there is, the block tells
+// and not the record: an array comes to a record without its capacity.
+static bool make_room(Datatree &parent)
+{
+    const auto count = static_cast<size_t>(parent.subtree_count);
+    size_t capacity = parent.subtrees != nullptr ? head_of(parent.subtrees)->size / sizeof(Datatree) : 0;
+    if (capacity <= count) {
+        capacity = count < 2 ? 2 : count * 2;
+        void *block = grow_block(parent.subtrees, capacity * sizeof(Datatree));
+        if (block == nullptr) return false;
+        parent.subtrees = static_cast<Datatree *>(block);
+    }
+    parent.subtree_capacity = static_cast<uint32_t>(capacity);
+    return true;
+}
+
+Datatree *append_child(Datatree &parent, const char *tag, const char *ns)
+{
+    if (!has(parent, VMF_DT_SUBTREES)) parent.subtrees = nullptr;
+    if (parent.subtrees == nullptr || parent.subtree_count < 0) parent.subtree_count = 0;
+    if (!make_room(parent)) return nullptr;
+    if (ArrayIndex *index = head_of(parent.subtrees)->index) index->follow(parent.subtree_count, 1);
+    parent.present[0] |= VMF_DT_SUBTREES;
+    Datatree &child = parent.subtrees[parent.subtree_count++];
+    child = {};
+    child.tag = const_cast<char *>(tag);
+    child.present[0] = VMF_DT_TAG;
+    if (ns != nullptr) {
+        child.namespace_ = const_cast<char *>(ns);
+        child.present[0] |= VMF_DT_NAMESPACE;
+    }
+    return &child;
+}
+
+bool set_value(Datatree &node, std::string_view value)
+{
+    char *copy = value.empty() ? strdup("") : strndup(value.data(), value.size());
+    if (copy == nullptr) return false;
+    if (has(node, VMF_DT_VALUE)) std::free(node.value);
+    node.value = copy;
+    node.present[0] |= VMF_DT_VALUE;
+    return true;
+}
+
+void set_operation(Datatree &node, uint32_t operation)
+{
+    node.operation = operation;
+    node.present[0] |= VMF_DT_OPERATION;
+}
+
+void set_data_namespace(Datatree &node, const char *borrowed_ns)
+{
+    node.data_namespace = const_cast<char *>(borrowed_ns);
+}
+
+void release(Datatree &node) { kidl_vmf_datatree_free_ext(&node, vmf_gpb_free, 0, 0); }
+
+Tree &Tree::operator=(Tree &&other) noexcept
+{
+    if (this != &other) {
+        release(root_);
+        root_ = other.root_;
+        other.root_ = {};
+    }
+    return *this;
+}
+
+// ---- Finding --------------------------------------------------------------------------------
+
+static ArrayIndex &index_of(Datatree &parent)
+{
+    ArrayIndex *&index = head_of(parent.subtrees)->index;
+    if (index == nullptr) index = new ArrayIndex;
+    return *index;
+}
+
+static Datatree *find_child(Datatree &parent, const ChildName &name)
+{
+    const std::span<Datatree> children = children_of(parent);
+    if (children.size() >= indexed_from) {
+        const int32_t at = index_of(parent).find_by_name(children.data(), parent.subtree_count, name);
+        return at >= 0 ? &children[static_cast<size_t>(at)] : nullptr;
+    }
+    for (Datatree &child : children)
+        if (has_name(child, name)) return &child;
+    return nullptr;
+}
+
+static bool same_key(const char *a, const char *b)
+{
+    return a == nullptr || b == nullptr ? a == b : std::strcmp(a, b) == 0;
+}
+
+static Datatree *find_entry(Datatree &parent, const ChildName &list, const char *key_tag, const char *key_value)
+{
+    const std::span<Datatree> children = children_of(parent);
+    if (children.size() >= indexed_from) {
+        const int32_t at =
+            index_of(parent).find_by_key(children.data(), parent.subtree_count, list, key_tag, key_value);
+        return at >= 0 ? &children[static_cast<size_t>(at)] : nullptr;
+    }
+    for (Datatree &child : children)
+        if (has_name(child, list) && same_key(key_value_of(child, key_tag), key_value)) return &child;
+    return nullptr;
+}
+
+// ---- Adding ---------------------------------------------------------------------------------
+
+// What an operation source says. It is taken before anything is added, since the source may lie in an array that grows.
+struct Source {
+    explicit Source(const Datatree *node)
+        : writes(node != nullptr && !platform::has_operation(*node)),
+          has_operation(node != nullptr && platform::has_operation(*node)),
+          operation(has_operation ? node->operation : 0)
+    {
+    }
+
+    bool writes;
+    bool has_operation;
+    uint32_t operation;
+};
+
+// A write below a node that is marked for removal ends as its replacement. Only a source counts as a write: what is
+// added without one, a companion or a selection, leaves the mark.
+static void note_write(Datatree &node, const Source &source)
+{
+    if (!source.writes || !has_operation(node)) return;
+    if (node.operation == VMF_OP_DELETE || node.operation == VMF_OP_REMOVE) node.operation = VMF_OP_REPLACE;
+}
+
+// A new value is of no module until that is told anew.
+static uint32_t give(Datatree &node, const char *value, const Source &source)
+{
+    if (value != nullptr) {
+        if (!set_value(node, value)) return VMF_RC_NO_MEMORY;
+        set_data_namespace(node, nullptr);
+    }
+    if (source.has_operation) set_operation(node, source.operation);
+    return VMF_RC_OK;
+}
+
+struct Added {
+    uint32_t outcome;
+    Datatree *node;
+};
+
+// The end of every add.
+static uint32_t done(const Operation &asked, const Added &added, Datatree **result)
+{
+    if (added.outcome != VMF_RC_OK) return added.outcome;
+    if (result != nullptr) *result = added.node;
+    observed_result(asked, *added.node);
+    return VMF_RC_OK;
+}
+
+static Datatree *find_or_append(Datatree &parent, const ChildName &name)
+{
+    Datatree *found = find_child(parent, name);
+    return found != nullptr ? found : append_child(parent, name.tag, name.ns);
+}
+
+static Datatree *find_or_append_entry(Datatree &parent, const ChildName &list, const char *key_tag,
+                                      const char *key_value)
+{
+    if (Datatree *found = find_entry(parent, list, key_tag, key_value)) return found;
+    Datatree *entry = append_child(parent, list.tag, list.ns);
+    if (entry == nullptr) return nullptr;
+    Datatree *key = append_child(*entry, key_tag, list.ns);
+    if (key == nullptr || (key_value != nullptr && !set_value(*key, key_value))) {
+        release(*entry);  // the last record of the array
+        parent.subtree_count--;
+        return nullptr;
+    }
+    return entry;
+}
+
+// ---- Paths ----------------------------------------------------------------------------------
+
+struct Request {
+    const char *ns;
+    const char *value;
+    Source source;
+    bool repeat;
+};
+
+static Added add_path(Datatree &root, const char *text, const Request &request)
+{
+    const ParsedPath &path = parse_path(text);
+    if (!path.is_path) return {VMF_RC_BAD_ARGS, nullptr};
+    Datatree *node = &root;
+    bool value_named_key = false;
+    for (const PathElement &element : path.elements) {
+        const ChildName name = {element.name, request.ns};
+        if (element.key != nullptr) {
+            node = find_or_append_entry(*node, name, element.key, request.value);
+            value_named_key = true;
+        } else if (request.repeat && !value_named_key && &element == &path.elements.back()) {
+            node = append_child(*node, name.tag, name.ns);
+        } else {
+            node = find_or_append(*node, name);
+        }
+        if (node == nullptr) return {VMF_RC_NO_MEMORY, nullptr};
+        note_write(*node, request.source);
+    }
+    return {give(*node, value_named_key ? nullptr : request.value, request.source), node};
+}
+
+static uint32_t add_path_operation(const char *operation, Datatree *parent, const char *path, const char *ns,
+                                   const char *value, const Datatree *source, Datatree **result, uint32_t repeat)
+{
+    const Operation asked = {operation, parent, path, ns, value, source, repeat};
+    if (uint32_t failed = observed(asked)) return failed;
+    if (parent == nullptr || path == nullptr) return VMF_RC_BAD_ARGS;
+    const Added added = add_path(*parent, path, {intern(ns), value, Source(source), repeat != 0});
+    const bool selects = value == nullptr && source == nullptr && result == nullptr && repeat == 0;
+    if (selects && added.node != nullptr) added.node->present[1] |= selected;
+    return done(asked, added, result);
+}
+
+}  // namespace platform
+
+// ---- The mapping's operations ---------------------------------------------------------------
+
+using namespace platform;
+
+extern "C" {
+
+uint32_t vmf_map_datatree_add_subtree(MapContext * /*ctx*/, Datatree *parent, const char *tag, const char *ns,
+                                      const char *value, const Datatree *operation_source, Datatree **result,
+                                      uint32_t flag)
+{
+    const Operation asked = {"vmf_map_datatree_add_subtree", parent, tag, ns, value, operation_source, flag};
+    if (uint32_t failed = observed(asked)) return failed;
+    if (parent == nullptr || tag == nullptr) return VMF_RC_BAD_ARGS;
+    const Source source(operation_source);
+    Datatree *node = find_or_append(*parent, {intern(tag), intern(ns)});
+    if (node == nullptr) return VMF_RC_NO_MEMORY;
+    note_write(*node, source);
+    return done(asked, {give(*node, value, source), node}, result);
+}
+
+uint32_t vmf_map_datatree_add_path(MapContext * /*ctx*/, Datatree *parent, const char *path, const char *ns,
+                                   const char *value, const Datatree *operation_source, Datatree **result,
+                                   uint32_t repeat)
+{
+    return add_path_operation("vmf_map_datatree_add_path", parent, path, ns, value, operation_source, result, repeat);
+}
+
+uint32_t vmf_map_datatree_add_path_common(MapContext * /*ctx*/, Datatree *parent, const char *path, const char *ns,
+                                          const char *value, const Datatree *operation_source, Datatree **result,
+                                          uint32_t repeat)
+{
+    return add_path_operation("vmf_map_datatree_add_path_common", parent, path, ns, value, operation_source, result,
+                              repeat);
+}
+
+uint32_t vmf_map_datatree_add_list_node(MapContext * /*ctx*/, Datatree *parent, const char *list_tag, const char *ns,
+                                        const char *key_tag, const char *key_value, Datatree **result)
+{
+    const Operation asked = {"vmf_map_datatree_add_list_node", parent, list_tag, ns, key_value, nullptr, 0};
+    if (uint32_t failed = observed(asked)) return failed;
+    if (parent == nullptr || list_tag == nullptr || key_tag == nullptr) return VMF_RC_BAD_ARGS;
+    Datatree *entry = find_or_append_entry(*parent, {intern(list_tag), intern(ns)}, intern(key_tag), key_value);
+    if (entry == nullptr) return VMF_RC_NO_MEMORY;
+    return done(asked, {VMF_RC_OK, entry}, result);
+}
+
+uint32_t vmf_map_datatree_add_data_ns(MapContext * /*ctx*/, Datatree *parent, const char *path, const char *ns)
+{
+    if (uint32_t failed = observed({"vmf_map_datatree_add_data_ns", parent, path, ns})) return failed;
+    if (parent == nullptr || path == nullptr) return VMF_RC_BAD_ARGS;
+    const ParsedPath &parsed = parse_path(path);  // begins with the parent's own tag
+    const char *tag = tag_of(*parent);
+    if (path[0] == '/' || !parsed.is_path || tag == nullptr || !same_text(parsed.elements.front().name, tag))
+        return VMF_RC_BAD_ARGS;
+    const std::vector<PathElement> &elements = parsed.elements;
+    Datatree *node = parent;
+    for (size_t i = 1; i < elements.size() && node != nullptr; i++)
+        node = find_child(*node, {elements[i].name, nullptr});
+    if (node == nullptr) return VMF_RC_BAD_TREE;
+    set_data_namespace(*node, intern(ns));
+    return VMF_RC_OK;
+}
+
+uint32_t vmf_map_get_subtrees(MapContext * /*ctx*/, Datatree *node, Datatree **subtrees, int32_t *count)
+{
+    if (uint32_t failed = observed({"vmf_map_get_subtrees", node})) return failed;
+    if (node == nullptr || subtrees == nullptr || count == nullptr) return VMF_RC_BAD_ARGS;
+    const bool has_array = (node->present[0] & VMF_DT_SUBTREES) != 0;
+    if (has_array && node->subtree_count != 0 && node->subtrees == nullptr) return VMF_RC_BAD_TREE;
+    const std::span<Datatree> children = children_of(*node);
+    *subtrees = children.empty() ? nullptr : children.data();
+    *count = static_cast<int32_t>(children.size());
+    return VMF_RC_OK;
+}
+
+void kidl_vmf_datatree_free_ext(Datatree *node, void (*free_callback)(void *), uint32_t zero1, uint32_t zero2)
+{
+    if (node == nullptr) return;
+    for (Datatree &child : children_of(*node)) kidl_vmf_datatree_free_ext(&child, free_callback, zero1, zero2);
+    if ((node->present[0] & VMF_DT_SUBTREES) != 0) kos_named_free(node->subtrees);
+    if ((node->present[0] & VMF_DT_VALUE) != 0) free_callback(node->value);
+    *node = {};
+}
+
+static void print_node(const VmfDebugContext &debug, const Datatree &node, const char *label, std::string &indent)
+{
+    std::string line = std::string(label) + ":" + indent;
+    line += tag_of(node) != nullptr ? tag_of(node) : "-";
+    if (const char *value = value_of(node)) line += std::string(" = '") + value + "'";
+    _lstrace(debug.trace_buffer, VMF_LSTRACE_FLAGS, line.c_str());
+    indent += "  ";
+    for (const Datatree &child : children_of(node)) print_node(debug, child, label, indent);
+    indent.resize(indent.size() - 2);
+}
+
+void vmf_map_print_datatree_internal(MapContext *ctx, const Datatree *tree, const char *label)
+{
+    if (tree == nullptr || ctx->_debug_ctx.trace_enabled == 0) return;
+    std::string indent = " ";
+    print_node(ctx->_debug_ctx, *tree, label, indent);
+}
+
+}  // extern "C"
