@@ -1,0 +1,228 @@
+#include "native_xml.h"
+
+#include <cstring>
+
+namespace router {
+
+// ---- Writing --------------------------------------------------------------------------------
+
+// A carriage return would be read as a line end.
+static void write_text(std::string &out, std::string_view text)
+{
+    for (size_t special = text.find_first_of("<>&\r"); special != std::string_view::npos;
+         special = text.find_first_of("<>&\r")) {
+        out.append(text.substr(0, special));
+        switch (text[special]) {
+        case '<': out += "&lt;"; break;
+        case '>': out += "&gt;"; break;
+        case '&': out += "&amp;"; break;
+        default: out += "&#13;"; break;
+        }
+        text.remove_prefix(special + 1);
+    }
+    out.append(text);
+}
+
+static void write_leaf(std::string &out, const char *tag, std::string_view value)
+{
+    if (value.empty()) {
+        out.append("<").append(tag).append("/>\n");
+        return;
+    }
+    out.append("<").append(tag).append(">");
+    write_text(out, value);
+    out.append("</").append(tag).append(">\n");
+}
+
+static void write_members(std::string &out, const Branch &data);
+
+static void write_node(std::string &out, const char *tag, const Branch &data)
+{
+    out.append("<").append(tag).append(">\n");
+    write_members(out, data);
+    out.append("</").append(tag).append(">\n");
+}
+
+static void write_entries(std::string &out, const Member &list)
+{
+    const Schema &schema = *list.schema;
+    entries_of(list).for_each([&](const Branch &entry) {
+        if (schema.kind == Schema::Kind::list)
+            write_node(out, schema.tag, entry);
+        else
+            write_leaf(out, schema.tag, value_of(entry.members.front()));
+    });
+}
+
+static void write_members(std::string &out, const Branch &data)
+{
+    for (const Member &member : data.members) {
+        switch (member.schema->kind) {
+        case Schema::Kind::leaf: write_leaf(out, member.schema->tag, value_of(member)); break;
+        case Schema::Kind::container: write_node(out, member.schema->tag, branch_of(member)); break;
+        case Schema::Kind::list:
+        case Schema::Kind::leaf_list: write_entries(out, member); break;
+        }
+    }
+}
+
+std::string write_xml(const Branch &data, const Schema &root)
+{
+    const Schema &bgp = root.children.front();
+    std::string out = std::string("<") + bgp.tag + " xmlns=\"" + bgp.ns + "\">\n";
+    if (const Member *member = find_member(data, bgp)) write_members(out, branch_of(*member));
+    return out.append("</").append(bgp.tag).append(">\n");
+}
+
+// ---- What libyang says ----------------------------------------------------------------------
+
+BadXml::BadXml(Violation what, std::string line_, bool is_malformed_)
+    : std::runtime_error(what.path + ": " + what.rule), violation(std::move(what)), line(std::move(line_)),
+      is_malformed(is_malformed_)
+{
+}
+
+// "... data location "/MODULE:bgp/instance/...", line number 3."
+static std::string data_location(std::string_view where)
+{
+    constexpr std::string_view label = "ata location \"";
+    const size_t begin = where.find(label);
+    if (begin == std::string_view::npos) return {};
+    where.remove_prefix(begin + label.size());
+    std::string path(where.substr(0, where.find("\", line number")));
+    if (path.ends_with("\".")) path.resize(path.size() - 2);
+    const size_t colon = path.find(':');
+    const size_t element_end = path.find_first_of("/[", 1);
+    return colon < element_end ? "/" + path.substr(colon + 1) : path;
+}
+
+static std::string line_number(std::string_view where)
+{
+    constexpr std::string_view label = "ine number ";
+    const size_t begin = where.rfind(label);
+    if (begin == std::string_view::npos) return {};
+    where.remove_prefix(begin + label.size());
+    return std::string(where.substr(0, where.find_first_not_of("0123456789")));
+}
+
+[[noreturn]] static void fail()
+{
+    const ly_err_item *error = ly_err_first(models().context);
+    const std::string message = error != nullptr && error->msg != nullptr ? error->msg : "libyang gives no reason";
+    const std::string where = error != nullptr && error->path != nullptr ? error->path : "";
+    const bool is_malformed = error != nullptr && error->vecode == LYVE_SYNTAX;
+    throw BadXml({data_location(where), message}, line_number(where), is_malformed);
+}
+
+// ---- Reading --------------------------------------------------------------------------------
+
+namespace {
+
+struct FreeData {
+    void operator()(lyd_node *data) const { lyd_free_all(data); }
+};
+
+using Data = std::unique_ptr<lyd_node, FreeData>;
+
+}  // namespace
+
+static Data parse(const std::string &text, Check check)
+{
+    const uint32_t parse_options = LYD_PARSE_STRICT | (check == Check::structure ? uint32_t{LYD_PARSE_ONLY} : 0);
+    const uint32_t check_options = check == Check::model ? uint32_t{LYD_VALIDATE_PRESENT} : 0;
+    lyd_node *data = nullptr;
+    ly_err_clean(models().context, nullptr);
+    if (text.find('\0') != std::string::npos) throw BadXml({{}, "a NUL"}, {}, true);  // libyang stops there
+    if (lyd_parse_data_mem(models().context, text.c_str(), LYD_XML, parse_options, check_options, &data) != LY_SUCCESS)
+        fail();
+    return Data(data);
+}
+
+static void copy_node(const lyd_node &node, Branch &parent);
+
+static void copy_children(const lyd_node *first, Branch &branch)
+{
+    for (const lyd_node *node = first; node != nullptr; node = node->next) copy_node(*node, branch);
+}
+
+[[noreturn]] static void fail_as_duplicate(const lyd_node &node)
+{
+    char *path = lyd_path(&node, LYD_PATH_STD, nullptr, 0);
+    const std::string where = std::string("Data location \"") + (path != nullptr ? path : "") + "\".";
+    std::free(path);
+    throw BadXml({data_location(where), "data that stands twice"}, {}, false);
+}
+
+static void copy_entry(const lyd_node &node, Branch &parent, const Schema &schema)
+{
+    auto entry = std::make_shared<Branch>();
+    if (schema.kind == Schema::Kind::list)
+        copy_children(lyd_child(&node), *entry);
+    else
+        entry->members.push_back({&schema, std::string(lyd_get_value(&node))});
+    Entries &entries = own_entries(member_of(parent, schema));
+    if (schema.key_count != 0 && entries.find(keys_of(*entry, schema)) != nullptr) fail_as_duplicate(node);
+    entries.add(std::move(entry));
+}
+
+// A container without anything in it is none.
+static void copy_node(const lyd_node &node, Branch &parent)
+{
+    const Schema &schema = *static_cast<const Schema *>(node.schema->priv);
+    if (schema.kind == Schema::Kind::list || schema.kind == Schema::Kind::leaf_list)
+        return copy_entry(node, parent, schema);
+    if (schema.kind == Schema::Kind::container && lyd_child(&node) == nullptr) return;
+    if (find_member(parent, schema) != nullptr) fail_as_duplicate(node);
+    Member &member = member_of(parent, schema);
+    if (schema.kind == Schema::Kind::leaf) {
+        member.content = std::string(lyd_get_value(&node));
+        return;
+    }
+    Branch &branch = own_branch(member);
+    copy_children(lyd_child(&node), branch);
+    if (branch.members.empty()) remove_member(parent, schema);
+}
+
+static void check_top(const lyd_node *top, const Schema &root)
+{
+    const Schema &bgp = root.children.front();
+    const std::string wanted = std::string(bgp.tag) + " of " + bgp.ns;
+    if (top == nullptr) throw BadXml({{}, "no " + wanted}, {}, true);
+    if (top->schema->priv != &bgp || top->next != nullptr) throw BadXml({{}, "data beside " + wanted}, {}, false);
+}
+
+static std::shared_ptr<Branch> read(const std::string &text, const Schema &root, Check check)
+{
+    const Data data = parse(text, check);
+    check_top(data.get(), root);
+    auto branch = std::make_shared<Branch>();
+    copy_children(data.get(), *branch);
+    return branch;
+}
+
+// libyang looks for what stands twice below a node before it puts the node in its place, and then gives the line, but
+// no more of the path than from that node on.
+[[noreturn]] static void fail_with_whole_path(const BadXml &bad, const std::string &text, const Schema &root)
+{
+    const bool is_whole = bad.violation.path.empty() || bad.violation.path.starts_with("/bgp");
+    if (is_whole) throw bad;
+    try {
+        read(text, root, Check::structure);
+    } catch (const BadXml &with_path) {
+        throw BadXml({with_path.violation.path, bad.violation.rule}, bad.line, bad.is_malformed);
+    }
+    throw bad;
+}
+
+std::shared_ptr<Branch> read_xml(const std::string &text, const Schema &root, Check check)
+{
+    try {
+        return read(text, root, check);
+    } catch (const BadXml &bad) {
+        fail_with_whole_path(bad, text, root);
+    }
+}
+
+void check_xml(const std::string &text) { parse(text, Check::model); }
+
+}  // namespace router
