@@ -1,0 +1,78 @@
+#include "edit.h"
+
+#include <iostream>
+
+#include "difference.h"
+#include "exit_codes.h"
+#include "report.h"
+
+namespace cli {
+
+namespace {
+
+io::Document read_edit(const std::string &text, const std::string &file)
+{
+    io::Document document = io::read_request(text, file);
+    if (document.kind.value_or(VMF_REQ_EDIT) != VMF_REQ_EDIT)
+        throw io::InputError(file + ": a request to read, not an edit");
+    return document;
+}
+
+void show(const framework::MappedRequest &mapped, const platform::Tree &before, const router::Router &router,
+          const EditOptions &options)
+{
+    std::cout << "# native edit\n"
+              << write_trees(mapped.native(), options.format, io::Envelope::config, options.router.secrets);
+    const platform::Tree after = router.config(router::Datastore::candidate);
+    const std::string difference = router::difference(before.root(), after.root(), options.router.secrets);
+    std::cout << "# difference\n" << (difference.empty() ? "none\n" : difference);
+}
+
+// The candidate takes the edit, or stays as it was.
+void apply(const framework::MappedRequest &mapped, router::Router &router, const EditOptions &options)
+{
+    if (router.candidate_differs() && !options.stays_candidate)
+        std::cerr << "note: the candidate holds changes already; a commit of this edit takes them along\n";
+    const platform::Tree before = options.only_shows ? router.config(router::Datastore::candidate) : platform::Tree();
+    router.edit(mapped.native());
+    if (options.only_shows) {
+        show(mapped, before, router, options);
+        router.validate();
+    } else if (options.stays_candidate) {
+        router.keep_candidate();
+    } else {
+        router.commit();
+    }
+}
+
+}  // namespace
+
+int edit(const EditOptions &options)
+{
+    const std::string text = io::read_input(options.file);
+    const io::Document document = read_edit(text, options.file);
+    router::Router router(options.router.folder, options.router.wait());
+
+    TracePrinter trace(options.router.secrets);
+    trace.hide(document.bgp.root());
+    framework::MappedRequest::Setting setting;
+    setting.read = [&] { return read_edit(text, options.file); };
+    setting.kind = VMF_REQ_EDIT;
+    setting.database = &router.database();
+    if (options.trace) setting.trace = [&](std::string_view line) { trace.print(line); };
+    framework::MappedRequest mapped(setting);
+    print_notes(mapped);
+    if (mapped.outcome() != VMF_RC_OK) {
+        print_refusal(mapped.refusal());
+        return exit_refused;
+    }
+    try {
+        apply(mapped, router, options);
+        return exit_ok;
+    } catch (const router::Refused &refused) {
+        print_violations(refused, [&](const std::string &native_path) { return mapped.origin_of(native_path); });
+        return exit_refused_by_router;
+    }
+}
+
+}  // namespace cli

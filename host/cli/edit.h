@@ -1,0 +1,22 @@
+// `ocbgp edit`: an OpenConfig edit lands in the embedded router.
+#pragma once
+
+#include <string>
+
+#include "router_options.h"
+
+namespace cli {
+
+struct EditOptions {
+    RouterOptions router;
+    std::string file;
+    bool only_shows = false;       // what the edit is natively, and the difference that it would make
+    bool stays_candidate = false;  // not committed
+    bool trace = false;
+    Format format = Format::tree;  // of what is shown
+};
+
+// Gives an exit code. Throws what the router and the reader throw.
+int edit(const EditOptions &options);
+
+}  // namespace cli

@@ -1,0 +1,288 @@
+// The command `ocbgp`.
+#include <CLI/CLI.hpp>
+#include <charconv>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <map>
+
+#include "edit.h"
+#include "exit_codes.h"
+#include "get.h"
+#include "report.h"
+#include "store_commands.h"
+#include "translate.h"
+#include "vmf_map_types.h"
+
+namespace {
+
+constexpr char exit_code_help[] =
+    "Exit codes: 0 done, 1 refused by the mapping, 2 unreadable input, 3 refused by the router (no\n"
+    "valid configuration, or no AS number known), 4 locked by another process, 5 no router, or a\n"
+    "damaged or full store, 64 wrong usage, 70 failure of the command itself.";
+
+// ---- Options that commands share ------------------------------------------------------------
+
+// "edit", "get", "get-config", or the number of any other kind.
+uint32_t read_kind(const std::string &text)
+{
+    static const std::map<std::string, uint32_t> names = {
+        {"edit", VMF_REQ_EDIT}, {"get", VMF_REQ_GET}, {"get-config", VMF_REQ_GET_CONFIG}};
+    if (auto found = names.find(text); found != names.end()) return found->second;
+    uint32_t kind = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), kind);
+    if (error != std::errc() || end != text.data() + text.size())
+        throw CLI::ValidationError("--kind", "takes edit, get, get-config or a number, not \"" + text + "\"");
+    return kind;
+}
+
+cli::Format read_format(const std::string &text)
+{
+    static const std::map<std::string, cli::Format> formats = {
+        {"xml", cli::Format::xml}, {"json", cli::Format::json}, {"tree", cli::Format::tree}};
+    if (auto found = formats.find(text); found != formats.end()) return found->second;
+    throw CLI::ValidationError("--format", "takes xml, json or tree, not \"" + text + "\"");
+}
+
+std::string read_store(const std::string &text)
+{
+    if (text == "running" || text == "candidate" || text == "operational") return text;
+    throw CLI::ValidationError("WHAT", "is running, candidate or operational, not \"" + text + "\"");
+}
+
+double read_seconds(const std::string &text)
+{
+    constexpr double longest = 86400;
+    char *end = nullptr;
+    const double seconds = std::strtod(text.c_str(), &end);
+    if (end == text.c_str() || *end != '\0' || !(seconds >= 0) || seconds > longest)
+        throw CLI::ValidationError("--wait", "takes a number of seconds, not \"" + text + "\"");
+    return seconds;
+}
+
+void add_format(CLI::App *command, cli::Format &format, const char *otherwise)
+{
+    command
+        ->add_option_function<std::string>(
+            "--format", [&format](const std::string &text) { format = read_format(text); },
+            std::string("how to print trees (") + otherwise + ")")
+        ->option_text("xml|json|tree");
+}
+
+void add_secrets(CLI::App *command, io::Secrets &secrets)
+{
+    command->add_flag_callback(
+        "--show-secrets", [&secrets] { secrets = io::Secrets::shown; }, "print passwords as they are");
+}
+
+void add_trace(CLI::App *command, bool &trace)
+{
+    command->add_flag("--trace", trace, "print the mapping's trace to standard error");
+}
+
+void add_router(CLI::App *command, cli::RouterOptions &options)
+{
+    const char *from_environment = std::getenv("OCBGP_ROUTER");
+    options.folder = from_environment != nullptr ? from_environment : "ocbgp-router";
+    command->add_option("--router", options.folder, "folder of the embedded router ($OCBGP_ROUTER, or ./ocbgp-router)")
+        ->option_text("DIR");
+    command
+        ->add_option_function<std::string>(
+            "--wait", [&options](const std::string &text) { options.patience = read_seconds(text); },
+            "seconds to wait for another process to leave it (5)")
+        ->option_text("SECONDS");
+}
+
+// ---- Commands -------------------------------------------------------------------------------
+
+// A command that parses its own options and runs when it was named.
+struct Command {
+    CLI::App *app;
+    std::function<int()> run;
+};
+
+class Commands {
+public:
+    explicit Commands(CLI::App &app) : app_(app) {}
+
+    CLI::App *add(const std::string &name, const std::string &what, const std::string &example,
+                  std::function<int()> run)
+    {
+        CLI::App *command = app_.add_subcommand(name, what);
+        command->footer("Example:\n  ocbgp " + example + "\n\n" + exit_code_help);
+        commands_.push_back({command, std::move(run)});
+        return command;
+    }
+
+    int run() const
+    {
+        for (const Command &command : commands_)
+            if (command.app->parsed()) return cli::reporting(command.run);
+        return cli::exit_usage;
+    }
+
+private:
+    CLI::App &app_;
+    std::vector<Command> commands_;
+};
+
+struct Options {
+    cli::TranslateOptions translate;
+    cli::EditOptions edit;
+    cli::GetOptions get;
+    cli::RouterOptions router;
+    std::string file;
+    std::string what;
+    cli::Format format = cli::Format::tree;
+};
+
+void add_translate(Commands &commands, cli::TranslateOptions &options)
+{
+    CLI::App *command = commands.add("translate", "Show what an OpenConfig request becomes natively",
+                                     "translate examples/global-edit.xml --as 65001 --format tree",
+                                     [&options] { return cli::translate(options); });
+    command->add_option("FILE", options.file, "request as XML or JSON; - for standard input")
+        ->required()
+        ->option_text(" ");
+    command
+        ->add_option_function<std::string>(
+            "--kind", [&options](const std::string &text) { options.kind = read_kind(text); },
+            "request kind; told by the input where it can, else edit")
+        ->option_text("edit|get|get-config|N");
+    command->add_option("--as", options.global_as, "global AS number that the router has already")
+        ->check(CLI::Range(uint32_t{1}, UINT32_MAX))
+        ->option_text("N");
+    add_format(command, options.format, "xml");
+    add_trace(command, options.trace);
+    add_secrets(command, options.secrets);
+}
+
+void add_edit(Commands &commands, cli::EditOptions &options)
+{
+    CLI::App *command = commands.add("edit", "Apply an OpenConfig edit to the embedded router",
+                                     "edit examples/global-edit.xml --router /tmp/router --dry-run",
+                                     [&options] { return cli::edit(options); });
+    command->add_option("FILE", options.file, "edit as XML or JSON; - for standard input")
+        ->required()
+        ->option_text(" ");
+    CLI::Option *dry_run = command->add_flag("--dry-run", options.only_shows,
+                                             "only show the native edit and the difference it would make");
+    command->add_flag("--candidate", options.stays_candidate, "leave it in the candidate, without a commit")
+        ->excludes(dry_run);
+    add_format(command, options.format, "tree");
+    add_trace(command, options.trace);
+    add_secrets(command, options.router.secrets);
+    add_router(command, options.router);
+}
+
+void add_get(Commands &commands, cli::GetOptions &options)
+{
+    CLI::App *command =
+        commands.add("get", "Read the embedded router in OpenConfig terms",
+                     "get --router /tmp/router --path /bgp/global/config", [&options] { return cli::get(options); });
+    CLI::Option *filter =
+        command->add_option("FILTER", options.filter, "filter as XML or JSON; - for standard input")->option_text(" ");
+    command->add_option("--path", options.path, "a path with list keys in brackets, in the place of a filter")
+        ->excludes(filter)
+        ->option_text("PATH");
+    command->add_flag("--config", options.only_config, "as <get-config>, not <get>: configuration alone");
+    add_format(command, options.format, "xml");
+    add_trace(command, options.trace);
+    add_secrets(command, options.router.secrets);
+    add_router(command, options.router);
+}
+
+void add_store_commands(Commands &commands, Options &options)
+{
+    cli::RouterOptions &router = options.router;
+    add_router(commands.add("init", "Make an empty embedded router", "init --router /tmp/router",
+                            [&router] { return cli::init(router); }),
+               router);
+    add_router(commands.add("reset", "Take all configuration and operational data away", "reset --router /tmp/router",
+                            [&router] { return cli::reset(router); }),
+               router);
+    add_router(commands.add("commit", "Make the candidate the running configuration", "commit --router /tmp/router",
+                            [&router] { return cli::commit(router); }),
+               router);
+    add_router(commands.add("discard", "Drop the candidate", "discard --router /tmp/router",
+                            [&router] { return cli::discard(router); }),
+               router);
+
+    CLI::App *diff = commands.add("diff", "Show what the candidate would change", "diff --router /tmp/router",
+                                  [&router] { return cli::diff(router); });
+    add_secrets(diff, router.secrets);
+    add_router(diff, router);
+
+    CLI::App *show = commands.add("show", "Show native data as it stands", "show running --router /tmp/router",
+                                  [&options] { return cli::show(options.router, options.what, options.format); });
+    show->add_option_function<std::string>(
+            "WHAT", [&options](const std::string &text) { options.what = read_store(text); },
+            "running, candidate or operational")
+        ->required()
+        ->option_text(" ");
+    add_format(show, options.format, "tree");
+    add_secrets(show, router.secrets);
+    add_router(show, router);
+
+    CLI::App *load = commands.add("load-operational", "Give the router native operational data",
+                                  "load-operational examples/operational.xml --router /tmp/router",
+                                  [&options] { return cli::load_operational(options.router, options.file); });
+    load->add_option("FILE", options.file, "native XML; - for standard input")->required()->option_text(" ");
+    add_router(load, router);
+
+    CLI::App *backup = commands.add("backup", "Copy what runs, and the operational data, to a new folder",
+                                    "backup /tmp/saved --router /tmp/router",
+                                    [&options] { return cli::backup(options.router, options.file); });
+    backup->add_option("FOLDER", options.file, "a folder that is made")->required()->option_text(" ");
+    add_router(backup, router);
+
+    CLI::App *restore =
+        commands.add("restore", "Make the router what a backup holds", "restore /tmp/saved --router /tmp/router",
+                     [&options] { return cli::restore(options.router, options.file); });
+    restore->add_option("FOLDER", options.file, "what backup made")->required()->option_text(" ");
+    add_router(restore, router);
+}
+
+int run(int argc, char **argv)
+{
+    CLI::App app("OpenConfig BGP for a router that speaks its own model");
+    app.set_version_flag("--version", "ocbgp " OCBGP_VERSION);
+    app.require_subcommand(0, 1);
+    app.footer(std::string("Example:\n  ocbgp translate examples/global-edit.xml\n\n") + exit_code_help);
+
+    Options options;
+    Commands commands(app);
+    add_translate(commands, options.translate);
+    add_edit(commands, options.edit);
+    add_get(commands, options.get);
+    add_store_commands(commands, options);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError &error) {
+        if (error.get_exit_code() == 0) return app.exit(error);  // --help, --version
+        std::cerr << "ocbgp: " << error.what() << "\nRun with --help for more information.\n";
+        return cli::exit_usage;
+    }
+    if (app.get_subcommands().empty()) {
+        std::cerr << "ocbgp: a command is required; see ocbgp --help\n";
+        return cli::exit_usage;
+    }
+    const int code = commands.run();
+    if (!std::cout.flush()) throw std::runtime_error("standard output cannot be written");
+    return code;
+}
+
+}  // namespace
+
+int main(int argc, char **argv)
+{
+    try {
+        return run(argc, argv);
+    } catch (const std::exception &error) {
+        std::fprintf(stderr, "ocbgp: %s\n", error.what());
+    } catch (...) {
+        std::fputs("ocbgp: unknown failure\n", stderr);
+    }
+    return cli::exit_failed;
+}
