@@ -70,6 +70,7 @@ std::vector<Output> write_all(const fs::path &root)
     write_request_tree(models, trees[0], outputs);
     write_response_tree(cfg_tree, trees[1], outputs);
     write_response_tree(oper_tree, trees[2], outputs);
+    outputs.push_back({"host/model/native_nodes.cpp", write_native_table(configuration, operational)});
     outputs.push_back(
         {library / "src/vmf_map_oc_bgp.exports", write_exports(trees, read_services(root / "generator/services.txt"))});
     for (size_t i = 0; i < trees.size(); i++) {

@@ -41,3 +41,4 @@ std::string write_handler_declarations(const Tree &tree, const Model &nodes);
 std::string write_exports(const std::vector<Model> &trees, const std::vector<std::string> &services);
 std::string write_node_list(const Model &nodes);
 std::string write_node_table(const Model &nodes, const std::vector<std::string> &identities);
+std::string write_native_table(const Model &configuration, const Model &operational);

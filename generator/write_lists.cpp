@@ -105,16 +105,33 @@ std::string write_node_list(const Model &nodes)
     return out.str();
 }
 
+static std::string shape_of(const Node &node, const std::string &path)
+{
+    return "\"" + path + "\", Kind::" + with_underscores(kind_name(node)) +
+           ", Type::" + (node.is_leaf() ? with_underscores(node.type) + "_" : "none");
+}
+
+std::string write_native_table(const Model &configuration, const Model &operational)
+{
+    std::ostringstream out;
+    out << "// Made by generator/ from the native models in models/.\n// Renew it with `cmake --build build/release "
+           "--target generate`.\n"
+        << "#include \"nodes.h\"\n\n// clang-format off\nnamespace model {\n\n"
+        << "static constexpr NativeNode nodes[] = {\n";
+    for (const Node &node : configuration) out << "    {" << shape_of(node, "configuration" + node.path) << "},\n";
+    for (const Node &node : operational) out << "    {" << shape_of(node, "operational" + node.path) << "},\n";
+    out << "};\n\nstd::span<const NativeNode> native() { return nodes; }\n\n}  // namespace model\n";
+    return out.str();
+}
+
 std::string write_node_table(const Model &nodes, const std::vector<std::string> &identities)
 {
     std::ostringstream out;
     out << made_by("openconfig-bgp", "//") << "#include \"nodes.h\"\n\n// clang-format off\nnamespace model {\n\n"
         << "static constexpr OcNode nodes[] = {\n";
     for (const Node &node : nodes) {
-        out << "    {\"" << node.path << "\", Kind::" << with_underscores(kind_name(node))
-            << ", Type::" << (node.is_leaf() ? with_underscores(node.type) + "_" : "none") << ", \"" << node.key
-            << "\", " << (node.config ? "true" : "false") << ", \"" << walker_symbol(node) << "\", \""
-            << (node.has_handler ? handler_symbol(node) : "") << "\"},\n";
+        out << "    {" << shape_of(node, node.path) << ", \"" << node.key << "\", " << (node.config ? "true" : "false")
+            << ", \"" << walker_symbol(node) << "\", \"" << (node.has_handler ? handler_symbol(node) : "") << "\"},\n";
     }
     out << "};\n\nstatic constexpr std::string_view identities[] = {\n";
     for (const std::string &identity : identities) out << "    \"" << identity << "\",\n";

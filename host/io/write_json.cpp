@@ -5,9 +5,8 @@
 #include <unordered_map>
 
 #include "modules.h"
-#include "native_lists.h"
+#include "nodes.h"
 #include "operation_names.h"
-#include "schema.h"
 #include "secrets.h"
 #include "tree.h"
 #include "write.h"
@@ -17,6 +16,16 @@ namespace io {
 namespace {
 
 using Json = nlohmann::ordered_json;
+
+// A node as its model has it.
+struct Shape {
+    std::string path = {};  // as the tables of models have it; empty: of no model
+    model::Kind kind = model::Kind::container;
+    model::Type type = model::Type::none;
+
+    bool is_leaf() const { return kind == model::Kind::leaf || kind == model::Kind::leaf_list; }
+    bool is_repeated() const { return kind == model::Kind::list || kind == model::Kind::leaf_list; }
+};
 
 std::string_view text_or_empty(const char *text) { return text != nullptr ? text : ""; }
 
@@ -52,28 +61,35 @@ std::string qualified_identity(std::string_view ns, std::string_view name)
     return std::string(module.empty() ? ns : module).append(":").append(name);
 }
 
-Json written_value(const Datatree &node, const Datatree &parent, const model::OcNode *model, Secrets secrets)
+Json written_value(const Datatree &node, const Datatree &parent, const Shape &shape, Secrets secrets)
 {
     const char *value = platform::value_of(node);
     if (value == nullptr) return nullptr;
     if (secrets == Secrets::hidden && is_secret(platform::tag_of(node), platform::tag_of(parent))) return hidden_value;
     if (const char *ns = platform::data_namespace_of(node)) return qualified_identity(ns, value);
-    return typed_value(model != nullptr ? model->type : model::Type::none, value);
+    return typed_value(shape.type, value);
 }
 
 // ---- Members --------------------------------------------------------------------------------
 
-const model::OcNode *model_of(const Datatree &node, const model::OcNode *parent)
+// What the paths of a model begin with; null for a namespace that is of none.
+const char *root_of_namespace(std::string_view ns)
 {
-    const bool is_openconfig = text_or_empty(platform::namespace_of(node)) == OC_BGP_NS;
-    return is_openconfig ? child_in_schema(parent, platform::tag_of(node)) : nullptr;
+    if (ns == OC_BGP_NS) return "";
+    if (ns == ZR_BGP_CFG_NS) return "configuration";
+    return ns == ZR_BGP_OPER_NS ? "operational" : nullptr;
 }
 
-bool stands_in_list(const Datatree &node, const model::OcNode *model)
+Shape shape_of(const Datatree &node, const Shape &parent)
 {
-    if (model != nullptr) return is_repeated(*model);
-    const std::string_view ns = text_or_empty(platform::namespace_of(node));
-    return (ns == ZR_BGP_CFG_NS || ns == ZR_BGP_OPER_NS) && is_native_list(platform::tag_of(node));
+    const char *root = root_of_namespace(text_or_empty(platform::namespace_of(node)));
+    if (root == nullptr) return {};
+    const bool is_root = std::string_view(platform::tag_of(node)) == "bgp";
+    std::string path = std::string(is_root ? root : parent.path).append("/").append(platform::tag_of(node));
+    if (const model::OcNode *found = model::find_oc_node(path)) return {std::move(path), found->kind, found->type};
+    if (const model::NativeNode *found = model::find_native_node(path))
+        return {std::move(path), found->kind, found->type};
+    return {};
 }
 
 std::string member_name(const Datatree &node, const Datatree &parent)
@@ -87,19 +103,19 @@ std::string member_name(const Datatree &node, const Datatree &parent)
 // Siblings of one name become one member.
 struct Member {
     std::string name;
-    const model::OcNode *model;
+    Shape shape;
     std::vector<const Datatree *> nodes;
 
-    bool is_array() const { return nodes.size() > 1 || stands_in_list(*nodes.front(), model); }
+    bool is_array() const { return nodes.size() > 1 || shape.is_repeated(); }
 };
 
-std::vector<Member> members_of(const Datatree &holder, const model::OcNode *model)
+std::vector<Member> members_of(const Datatree &holder, const Shape &shape)
 {
     std::vector<Member> members;
     std::unordered_map<std::string, size_t> by_name;
     for (const Datatree &node : platform::children_of(holder)) {
         const auto [at, is_new] = by_name.emplace(member_name(node, holder), members.size());
-        if (is_new) members.push_back({at->first, model_of(node, model), {}});
+        if (is_new) members.push_back({at->first, shape_of(node, shape), {}});
         members[at->second].nodes.push_back(&node);
     }
     return members;
@@ -113,10 +129,10 @@ void add_member(Json &object, std::string name, Json value)
     object.get_ref<Json::object_t &>().emplace_back(std::move(name), std::move(value));
 }
 
-bool is_object(const Datatree &node, const model::OcNode *model)
+bool is_object(const Datatree &node, const Shape &shape)
 {
     if (!platform::children_of(node).empty()) return true;
-    return platform::value_of(node) == nullptr && model != nullptr && !is_leaf(*model);
+    return platform::value_of(node) == nullptr && !shape.path.empty() && !shape.is_leaf();
 }
 
 Json operation_of(const Datatree &node)
@@ -125,21 +141,21 @@ Json operation_of(const Datatree &node)
     return Json::object({{json_operation, name_of_operation(node.operation)}});
 }
 
-void add_members(Json &object, const Datatree &holder, const model::OcNode *model, Secrets secrets);
+void add_members(Json &object, const Datatree &holder, const Shape &shape, Secrets secrets);
 
-Json written_node(const Datatree &node, const Datatree &parent, const model::OcNode *model, Secrets secrets)
+Json written_node(const Datatree &node, const Datatree &parent, const Shape &shape, Secrets secrets)
 {
-    if (!is_object(node, model)) return written_value(node, parent, model, secrets);
+    if (!is_object(node, shape)) return written_value(node, parent, shape, secrets);
     Json object = Json::object();
     if (platform::has_operation(node)) add_member(object, "@", operation_of(node));
-    add_members(object, node, model, secrets);
+    add_members(object, node, shape, secrets);
     return object;
 }
 
 // An object tells its operation itself; that of any other value stands beside it.
-bool is_annotated_beside(const Datatree &node, const model::OcNode *model)
+bool is_annotated_beside(const Datatree &node, const Shape &shape)
 {
-    return platform::has_operation(node) && !is_object(node, model);
+    return platform::has_operation(node) && !is_object(node, shape);
 }
 
 Json annotations_of(const Member &member)
@@ -147,23 +163,23 @@ Json annotations_of(const Member &member)
     if (!member.is_array()) return operation_of(*member.nodes.front());
     Json annotations = Json::array();
     for (const Datatree *node : member.nodes)
-        annotations.push_back(is_annotated_beside(*node, member.model) ? operation_of(*node) : nullptr);
+        annotations.push_back(is_annotated_beside(*node, member.shape) ? operation_of(*node) : nullptr);
     return annotations;
 }
 
 Json value_of_member(const Member &member, const Datatree &holder, Secrets secrets)
 {
     Json values = Json::array();
-    for (const Datatree *node : member.nodes) values.push_back(written_node(*node, holder, member.model, secrets));
+    for (const Datatree *node : member.nodes) values.push_back(written_node(*node, holder, member.shape, secrets));
     if (member.is_array() || values.front().is_null()) return values;  // a leaf without a value is [null]
     return std::move(values.front());
 }
 
-void add_members(Json &object, const Datatree &holder, const model::OcNode *model, Secrets secrets)
+void add_members(Json &object, const Datatree &holder, const Shape &shape, Secrets secrets)
 {
-    for (const Member &member : members_of(holder, model)) {
+    for (const Member &member : members_of(holder, shape)) {
         add_member(object, member.name, value_of_member(member, holder, secrets));
-        const auto is_annotated = [&](const Datatree *node) { return is_annotated_beside(*node, member.model); };
+        const auto is_annotated = [&](const Datatree *node) { return is_annotated_beside(*node, member.shape); };
         if (std::any_of(member.nodes.begin(), member.nodes.end(), is_annotated))
             add_member(object, "@" + member.name, annotations_of(member));
     }
@@ -174,7 +190,7 @@ void add_members(Json &object, const Datatree &holder, const model::OcNode *mode
 std::string write_json(const Datatree &holder, Secrets secrets)
 {
     Json top = Json::object();
-    add_members(top, holder, &schema_root, secrets);
+    add_members(top, holder, {}, secrets);
     return top.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 

@@ -34,6 +34,17 @@ struct OcNode {
     std::string_view handler;  // none for a list
 };
 
+// A node of a native model: enough to write it.
+struct NativeNode {
+    std::string_view path;  // "configuration/bgp/instance", "operational/bgp/instances"
+    Kind kind;
+    Type type;
+};
+std::span<const NativeNode> native();
+
+// The node at such a path, or null.
+const NativeNode *find_native_node(std::string_view path);
+
 // The OpenConfig tree, in the order of the model.
 std::span<const OcNode> openconfig_bgp();
 

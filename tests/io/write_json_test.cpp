@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <sstream>
+
+#include "nodes.h"
 #include "requests.h"
 #include "write.h"
 
@@ -104,7 +107,7 @@ TEST(WriteJson, WritesListsOfOpenconfigAsArrays)
 )");
 }
 
-TEST(WriteJson, WritesNativeListsAsArrays)
+TEST(WriteJson, WritesNativeListsAsArraysAndNativeNumbersAsNumbers)
 {
     EXPECT_EQ(json("bgp zr-cfg\n  instance\n    instance-as\n      as = 0\n  other\n    route-policy-in = a\n"), R"({
   "Zorvex-ZR-ipv4-bgp-cfg:bgp": {
@@ -112,31 +115,49 @@ TEST(WriteJson, WritesNativeListsAsArrays)
       {
         "instance-as": [
           {
-            "as": "0"
+            "as": 0
           }
         ]
       }
     ],
     "other": {
-      "route-policy-in": [
-        "a"
-      ]
+      "route-policy-in": "a"
     }
   }
 }
 )");
 }
 
+TEST(WriteJson, WritesNativeNumbersOf64BitsAsStrings)
+{
+    const std::string tree =
+        "bgp zr-oper\n  instances\n    instance\n      instance-active\n        default-vrf\n          neighbors\n"
+        "            neighbor\n              hold-time = 90\n              message-statistics\n"
+        "                update\n                  tx\n                    count = 7\n";
+    EXPECT_NE(json(tree).find("\"hold-time\": 90,"), std::string::npos) << json(tree);
+    EXPECT_NE(json(tree).find("\"count\": \"7\""), std::string::npos) << json(tree);
+}
+
+// Each at its place in its model, and nowhere else.
 TEST(WriteJson, KnowsEveryNativeList)
 {
-    for (const char *list :
-         {"instance", "instance-as", "four-byte-as", "confederation-peer-as", "global-af", "neighbor", "neighbor-af",
-          "neighbor-group", "neighbor-group-af", "af", "af-data", "route-policy-in", "route-policy-out"}) {
-        EXPECT_NE(json("bgp zr-oper\n  " + std::string(list) + " = x\n").find("\": [\n      \"x\"\n    ]"),
-                  std::string::npos)
-            << list;
-        EXPECT_EQ(json("bgp <urn:x>\n  " + std::string(list) + " = x\n").find('['), std::string::npos) << list;
+    size_t lists = 0;
+    for (const model::NativeNode &node : model::native()) {
+        if (node.kind != model::Kind::list && node.kind != model::Kind::leaf_list) continue;
+        lists++;
+        std::string tree;
+        std::string indent;
+        std::istringstream tags{std::string(node.path)};
+        std::string tag;
+        std::getline(tags, tag, '/');
+        const std::string ns = tag == "configuration" ? " zr-cfg" : " zr-oper";
+        for (; std::getline(tags, tag, '/'); indent += "  ") tree += indent + tag + (indent.empty() ? ns : "") + "\n";
+        tree.pop_back();
+        tag = tree.substr(tree.find_last_of(" \n") + 1);
+        EXPECT_NE(json(tree + " = x\n").find("\"" + tag + "\": [\n"), std::string::npos) << node.path;
+        EXPECT_EQ(json("bgp <urn:x>\n  " + tag + " = x\n").find('['), std::string::npos) << tag;
     }
+    EXPECT_EQ(lists, 18u);
 }
 
 TEST(WriteJson, GathersWhatRepeatsInAnArray)
@@ -267,9 +288,7 @@ TEST(WriteJson, TellsEmptyContainersFromLeavesWithoutValue)
       ]
     }
   },
-  "Zorvex-ZR-ipv4-bgp-cfg:bgp": [
-    null
-  ]
+  "Zorvex-ZR-ipv4-bgp-cfg:bgp": {}
 }
 )");
 }
