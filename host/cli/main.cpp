@@ -6,6 +6,7 @@
 #include <exception>
 #include <iostream>
 #include <map>
+#include <new>
 
 #include "edit.h"
 #include "exit_codes.h"
@@ -279,6 +280,8 @@ int main(int argc, char **argv)
 {
     try {
         return run(argc, argv);
+    } catch (const std::bad_alloc &) {
+        std::fputs("ocbgp: there is not enough memory\n", stderr);
     } catch (const std::exception &error) {
         std::fprintf(stderr, "ocbgp: %s\n", error.what());
     } catch (...) {

@@ -5,39 +5,40 @@
 #include "document.h"
 #include "exit_codes.h"
 #include "output.h"
+#include "reading.h"
 #include "vmf_map_platform.h"
 
 namespace cli {
 
 void print_notes(const framework::MappedRequest &mapped)
 {
-    for (const std::string &note : mapped.notes()) std::cerr << "note: " << note << "\n";
+    for (const std::string &note : mapped.notes()) std::cerr << "note: " << io::on_one_line(note) << "\n";
 }
 
 void print_refusal(const framework::Refusal &refusal)
 {
     std::cerr << "ocbgp: refused: " << name_of_outcome(refusal.outcome) << "\n";
-    std::cerr << "  reason: " << refusal.reason << "\n";
-    if (!refusal.tag.empty()) std::cerr << "  tag:    " << refusal.tag << "\n";
-    std::cerr << "  path:   " << refusal.path << "\n";
+    std::cerr << "  reason: " << io::on_one_line(refusal.reason) << "\n";
+    if (!refusal.tag.empty()) std::cerr << "  tag:    " << io::on_one_line(refusal.tag) << "\n";
+    std::cerr << "  path:   " << io::on_one_line(refusal.path) << "\n";
 }
 
 void print_refused_answer(uint32_t outcome, const char *tag)
 {
     std::cerr << "ocbgp: the router's answer was refused: " << name_of_outcome(outcome) << "\n";
     std::cerr << "  reason: " << cerr_strerror(outcome) << "\n";
-    if (tag != nullptr) std::cerr << "  tag:    " << tag << "\n";
+    if (tag != nullptr) std::cerr << "  tag:    " << io::on_one_line(tag) << "\n";
 }
 
 void print_violations(const router::Refused &refused,
                       const std::function<std::string(const std::string &native_path)> &origin_of)
 {
     for (const router::Violation &violation : refused.violations) {
-        std::cerr << "ocbgp: refused by the router: " << violation.rule << "\n";
+        std::cerr << "ocbgp: refused by the router: " << io::on_one_line(violation.rule) << "\n";
         if (violation.path.empty()) continue;
-        std::cerr << "  native: " << violation.path << "\n";
+        std::cerr << "  native: " << io::on_one_line(violation.path) << "\n";
         const std::string origin = origin_of ? origin_of(violation.path) : "";
-        if (!origin.empty()) std::cerr << "  path:   " << origin << "\n";
+        if (!origin.empty()) std::cerr << "  path:   " << io::on_one_line(origin) << "\n";
     }
 }
 
@@ -54,7 +55,7 @@ void TracePrinter::print(std::string_view line) const
 
 static int complain(const std::exception &error, ExitCode code)
 {
-    std::cerr << "ocbgp: " << error.what() << "\n";
+    std::cerr << "ocbgp: " << io::on_one_line(error.what()) << "\n";
     return code;
 }
 

@@ -106,6 +106,7 @@ public:
 
     bool key(std::string &text) override
     {
+        if (text.size() > longest_name) refuse_here("a name of more than " + std::to_string(longest_name) + " bytes");
         if (!is_member_name(text)) refuse_here(nlohmann::json(text).dump() + " is no name of a member");
         if (objects_ > deepest_nesting) refuse_here("nested deeper than " + std::to_string(deepest_nesting));
         constexpr std::string_view own_module = "openconfig-bgp:";
@@ -157,6 +158,7 @@ private:
     // Adds a value to what is open. It stays where it is until it is closed: nothing is added beside it before.
     JsonValue &add(JsonValue::Shape shape)
     {
+        if (++values_ > most_nodes) refuse_here("more than " + std::to_string(most_nodes) + " values");
         JsonValue &value = open_.empty() ? root_ : open_.back()->items.emplace_back();
         value.shape = shape;
         if (open_.empty() || open_.back()->shape != JsonValue::Shape::object) return value;
@@ -169,6 +171,10 @@ private:
 
     bool scalar(std::string text)
     {
+        if (text.size() > longest_value) {
+            open(JsonValue::Shape::scalar);
+            refuse_here("a value of more than " + std::to_string(longest_value) + " bytes");
+        }
         add(JsonValue::Shape::scalar).text = std::move(text);
         return true;
     }
@@ -198,6 +204,7 @@ private:
     platform::NameTable &names_;
     JsonValue root_;
     std::vector<JsonValue *> open_;  // from the root down
+    size_t values_ = 0;
     int objects_ = 0;
     const char *key_ = nullptr;
     bool qualified_ = false;

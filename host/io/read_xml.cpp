@@ -67,7 +67,8 @@ struct Reading {
     xmlParserCtxtPtr parser = nullptr;
     std::vector<Element> open = {};
     std::vector<Declaration> declarations = {};
-    std::exception_ptr error = nullptr;      // what ended the reading
+    std::exception_ptr error = nullptr;  // what ended the reading
+    size_t element_count = 0;
     size_t innermost_holder = 0;             // where a tree should have stood, if none comes
     std::optional<size_t> foreign_bgp = {};  // where a `bgp` of another namespace stood,
     std::string foreign_namespace = {};      // and of which
@@ -108,6 +109,44 @@ size_t last_passed(const Reading &reading, std::string_view begin)
 size_t offset_of_tag(const Reading &reading) { return last_passed(reading, "<"); }
 
 bool in_secret(const Reading &reading) { return !reading.open.empty() && reading.open.back().is_secret; }
+
+// ---- Limits ---------------------------------------------------------------------------------
+
+std::string more_than(size_t limit) { return " of more than " + std::to_string(limit) + " bytes"; }
+
+void check_limits(const Reading &reading, const Tag &tag, size_t offset)
+{
+    if (reading.open.size() >= deepest_nesting)
+        refuse(reading, offset, "elements nested deeper than " + std::to_string(deepest_nesting));
+    if (reading.element_count > most_nodes)
+        refuse(reading, offset, "more than " + std::to_string(most_nodes) + " elements");
+    if (std::string_view(tag.name).size() > longest_name) refuse(reading, offset, "a name" + more_than(longest_name));
+}
+
+size_t end_of_tag(std::string_view text, size_t at)
+{
+    while ((at = text.find_first_of("\"'>", at)) != std::string_view::npos && text[at] != '>') {
+        at = text.find(text[at], at + 1);
+        if (at == std::string_view::npos) break;
+        at++;
+    }
+    return std::min(at, text.size());
+}
+
+// The parser's time for a tag grows with the square of its attributes. No '<' can stand in a tag, so that most need no
+// look of their own.
+void check_tag_lengths(const Reading &reading)
+{
+    const std::string_view text = reading.text;
+    for (size_t begin = text.find('<'); begin != std::string_view::npos;) {
+        const size_t next = text.find('<', begin + 1);
+        const bool is_long = std::min(next, text.size()) - begin > longest_tag;
+        const bool is_tag = text.substr(begin + 1, 1).find_first_of("!?") == std::string_view::npos;
+        if (is_long && is_tag && end_of_tag(text, begin) - begin > longest_tag)
+            refuse(reading, begin, "a tag" + more_than(longest_tag));
+        begin = next;
+    }
+}
 
 // ---- Values ---------------------------------------------------------------------------------
 
@@ -327,6 +366,21 @@ void open_root(Reading &reading, Element &element, const Tag &tag)
     open_protocol_element(reading, element, tag, known->role);
 }
 
+// A node of another module that is called like one of the parent's would be taken for it.
+void refuse_lookalike(const Reading &reading, const Element &element, const Tag &tag, const Element &parent)
+{
+    if (is_in(tag.ns, OC_BGP_NS) || child_in_schema(parent.model, tag.name) == nullptr) return;
+    refuse(reading, element.offset, shown(tag) + "; expected " + tag.name + " of " + OC_BGP_NS);
+}
+
+void refuse_second(const Reading &reading, const Element &element, const Element &parent)
+{
+    if (element.model == nullptr || is_repeated(*element.model)) return;
+    for (const Datatree &child : platform::children_of(*parent.node))
+        if (platform::tag_of(child) == std::string_view(element.tag))
+            refuse(reading, element.offset, shown(element.tag) + " stands twice in " + shown(parent.tag));
+}
+
 void open_in_data(Reading &reading, Element &element, const Tag &tag, Element &parent)
 {
     if (!is_blank(parent.text)) refuse(reading, parent.offset, "text beside elements in " + shown(parent.tag));
@@ -335,7 +389,10 @@ void open_in_data(Reading &reading, Element &element, const Tag &tag, Element &p
     if (parent.model != nullptr && is_leaf(*parent.model))
         refuse(reading, element.offset, "an element in " + shown(parent.tag) + ", which is a leaf");
 
+    refuse_lookalike(reading, element, tag, parent);
     const bool is_openconfig = is_in(tag.ns, OC_BGP_NS);
+    element.model = is_openconfig ? child_in_schema(parent.model, tag.name) : nullptr;
+    refuse_second(reading, element, parent);
     if (is_taken_away(*parent.node) && !(is_openconfig && stays_below_removal(parent.model, tag.name))) {
         element.role = Role::skipped;
         return;
@@ -343,7 +400,6 @@ void open_in_data(Reading &reading, Element &element, const Tag &tag, Element &p
     platform::NameTable &names = reading.document.names;
     element.role = Role::data;
     element.node = &add_child(*parent.node, names.hold(tag.name), tag.ns != nullptr ? names.hold(tag.ns) : nullptr);
-    element.model = is_openconfig ? child_in_schema(parent.model, tag.name) : nullptr;
     read_data_attributes(reading, element, tag);
 }
 
@@ -365,8 +421,8 @@ void give_role(Reading &reading, Element &element, const Tag &tag)
 void open_element(Reading &reading, const Tag &tag, size_t outer_scope)
 {
     const size_t offset = offset_of_tag(reading);
-    if (reading.open.size() >= deepest_nesting)
-        refuse(reading, offset, "elements nested deeper than " + std::to_string(deepest_nesting));
+    reading.element_count++;
+    check_limits(reading, tag, offset);
     const char *parent = reading.open.empty() ? nullptr : reading.open.back().tag;
     Element element = {Role::skipped, tag.name, offset, outer_scope, in_secret(reading) || is_secret(tag.name, parent)};
     give_role(reading, element, tag);
@@ -388,6 +444,8 @@ void read_text(Reading &reading, std::string_view text)
     if (element.role == Role::skipped) return;
     if (element.role == Role::data || element.role == Role::default_operation) {
         if (!element.has_children) {
+            if (text.size() > longest_value - element.text.size())
+                refuse(reading, element.offset, "a value" + more_than(longest_value) + " in " + shown(element.tag));
             element.text += text;
             return;
         }
@@ -564,6 +622,7 @@ Document read_xml(std::string_view text, const std::string &file)
     Document document;
     Reading reading = {.text = checked_text(text, file), .file = file, .document = document};
     check_encoding(reading);
+    check_tag_lengths(reading);
     parse(reading);
     check_bgp(reading);
     Datatree &bgp = document.bgp.root();

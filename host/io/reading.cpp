@@ -14,15 +14,29 @@ std::string_view trimmed(std::string_view text)
     return text.substr(first, text.find_last_not_of(white_space) - first + 1);
 }
 
-std::string on_one_line(std::string_view text)
+static bool continues_character(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
+
+// Where a text can be cut without cutting a character.
+static size_t boundary_before(std::string_view text, size_t at)
 {
-    std::string line(trimmed(text));
-    std::replace_if(
-        line.begin(), line.end(), [](char c) { return white_space.find(c) != std::string_view::npos; }, ' ');
-    return line;
+    while (at > 0 && continues_character(text[at])) at--;
+    return at;
 }
 
-static bool continues_character(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
+std::string on_one_line(std::string_view text)
+{
+    constexpr size_t longest_message = 1000;
+    std::string line(trimmed(text));
+    if (line.size() > longest_message) line = line.substr(0, boundary_before(line, longest_message)) + "...";
+    for (size_t at = 0; at < line.size(); at++) {
+        const auto byte = static_cast<unsigned char>(line[at]);
+        const bool is_high_control =
+            byte == 0xC2 && at + 1 < line.size() && static_cast<unsigned char>(line[at + 1]) < 0xA0;
+        if (is_high_control) line.erase(at, 1);
+        if (is_high_control || byte < ' ' || byte == 0x7F) line[at] = ' ';
+    }
+    return line;
+}
 
 // Overlong forms, surrogates and what lies beyond U+10FFFF show in the second byte.
 static bool is_second_byte(unsigned char lead, unsigned char second)

@@ -21,7 +21,8 @@ inline bool is_blank(std::string_view text) { return text.find_first_not_of(whit
 
 std::string_view trimmed(std::string_view text);
 
-// For messages, which take a line each whatever they quote.
+// For messages, which take a line each whatever they quote, and not an endless one. Controls, which could speak to a
+// terminal, become blanks.
 std::string on_one_line(std::string_view text);
 
 // The text without a byte order mark. Throws InputError if it is blank, too large, not UTF-8, or holds a NUL, which

@@ -1,0 +1,73 @@
+// Inputs beyond all bounds: refused before they take much memory.
+#include "router.h"
+
+namespace {
+
+// Kilobytes of address space. The address sanitizer's shadow memory alone needs more than any limit.
+#if defined(__SANITIZE_ADDRESS__)
+#define HAS_ADDRESS_SANITIZER
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#define HAS_ADDRESS_SANITIZER
+#endif
+#endif
+#ifdef HAS_ADDRESS_SANITIZER
+constexpr char limited[] = "";
+#else
+constexpr char limited[] = "ulimit -v 2097152; ";
+#endif
+
+class Large : public HostileTest {
+protected:
+    static void expect(const std::string &made_by, const std::string &error, const std::string &command = "edit -")
+    {
+        expect_refusal(limited + ("{ " + made_by + "; } 2>/dev/null | $ocbgp " + command), "", 2,
+                       "ocbgp: " + error + "\n");
+    }
+};
+
+constexpr char bgp_tag[] = "echo '<bgp xmlns=\"http://openconfig.net/yang/bgp\">'; ";
+
+}  // namespace
+
+TEST_F(Large, AGibibyteOfNothing) { expect("head -c 1G /dev/zero", "-: larger than 268435456 bytes"); }
+
+TEST_F(Large, AGibibyteOfAFile)
+{
+    const std::string file = "large-$$";
+    expect_refusal(limited + ("cd ${TMPDIR:-/tmp} && truncate -s 1G " + file + " && { $ocbgp edit " + file +
+                              " 2>&1 | sed s/-[0-9]*:/:/ >&2; rm " + file + "; }"),
+                   "", 0, "ocbgp: large: larger than 268435456 bytes\n");
+}
+
+TEST_F(Large, AGibibyteOfElements)
+{
+    expect(std::string(bgp_tag) + "yes '<neighbors/>' | head -c 1G", "-: larger than 268435456 bytes");
+}
+
+TEST_F(Large, AGibibyteOfOperationalData)
+{
+    expect("yes '<a/>' | head -c 1G", "-: larger than 268435456 bytes", "load-operational -");
+}
+
+TEST_F(Large, MillionsOfElements)
+{
+    expect(std::string(bgp_tag) + "yes '<a/>' | head -n 5000000", "-:4194305:1: more than 4194304 elements");
+}
+
+TEST_F(Large, MillionsOfJsonValues)
+{
+    expect("printf '{\"a:b\": ['; yes '0,' | head -n 5000000", "-: /a:b: more than 4194304 values");
+}
+
+TEST_F(Large, AValueOfManyMegabytes)
+{
+    expect(std::string(bgp_tag) + "printf '<global>'; yes | head -c 20M",
+           "-:2:1: a value of more than 65536 bytes in <global>");
+}
+
+TEST_F(Large, ACommentOfManyMegabytes)
+{
+    expect(std::string(bgp_tag) + "printf '<!--'; yes | head -c 20M",
+           "-:10485762:1: not well-formed XML: Comment not terminated");
+}
