@@ -3,18 +3,21 @@
 
 namespace {
 
-// Kilobytes of address space. The address sanitizer's shadow memory alone needs more than any limit.
+// A sanitizer's shadow memory alone needs more address space than any limit, and its time for millions of elements is
+// not what is tested here.
 #if defined(__SANITIZE_ADDRESS__)
-#define HAS_ADDRESS_SANITIZER
+#define HAS_SANITIZER
 #elif defined(__has_feature)
 #if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define HAS_ADDRESS_SANITIZER
+#define HAS_SANITIZER
 #endif
 #endif
-#ifdef HAS_ADDRESS_SANITIZER
+#ifdef HAS_SANITIZER
 constexpr char limited[] = "";
+constexpr bool is_slow = true;
 #else
-constexpr char limited[] = "ulimit -v 2097152; ";
+constexpr char limited[] = "ulimit -v 2097152; ";  // kilobytes
+constexpr bool is_slow = false;
 #endif
 
 class Large : public HostileTest {
@@ -52,6 +55,7 @@ TEST_F(Large, AGibibyteOfOperationalData)
 
 TEST_F(Large, MillionsOfElements)
 {
+    if (is_slow) GTEST_SKIP();
     expect(std::string(bgp_tag) + "yes '<a/>' | head -n 5000000", "-:4194305:1: more than 4194304 elements");
 }
 
