@@ -42,7 +42,7 @@ format:
 # The library's sources and the host's, not the tests.
 tidy:
 	cmake --preset sanitize
-	run-clang-tidy -quiet -j $(JOBS) -p build/sanitize '(mapping/src|host)/.*\.cpp$$'
+	run-clang-tidy -quiet -j $(JOBS) -p build/sanitize '^$(CURDIR)/(manageability|host)/.*\.cpp$$'
 
 generate:
 	cmake --preset release
