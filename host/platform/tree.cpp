@@ -1,8 +1,10 @@
 #include "tree.h"
 
+#include <atomic>
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <utility>
 
 #include "array_index.h"
 #include "names.h"
@@ -33,10 +35,31 @@ std::span<Datatree> children_of(const Datatree &node)
     return {node.subtrees, static_cast<size_t>(node.subtree_count)};
 }
 
+static std::atomic<bool> moves_arrays = false;
+
+void move_arrays_at_every_add(bool moves) { moves_arrays = moves; }
+
+// Gives the array a new block, with room for one child more.
+static bool move_array(Datatree &parent)
+{
+    const size_t size = static_cast<size_t>(parent.subtree_count) * sizeof(Datatree);
+    void *block = allocate_block(size + sizeof(Datatree));
+    if (block == nullptr) return false;
+    std::memcpy(block, parent.subtrees, size);
+    std::swap(head_of(block)->index, head_of(parent.subtrees)->index);
+    constexpr int spoilt = 0xA5;
+    std::memset(static_cast<void *>(parent.subtrees), spoilt, head_of(parent.subtrees)->size);
+    release_block(parent.subtrees);
+    parent.subtrees = static_cast<Datatree *>(block);
+    parent.subtree_capacity = static_cast<uint32_t>(parent.subtree_count) + 1;
+    return true;
+}
+
 // Doubles the array, so that adding a child costs the same however many there are. What room there is, the block tells
 // and not the record: an array comes to a record without its capacity.
 static bool make_room(Datatree &parent)
 {
+    if (moves_arrays.load(std::memory_order_relaxed) && parent.subtrees != nullptr) return move_array(parent);
     const auto count = static_cast<size_t>(parent.subtree_count);
     size_t capacity = parent.subtrees != nullptr ? head_of(parent.subtrees)->size / sizeof(Datatree) : 0;
     if (capacity <= count) {

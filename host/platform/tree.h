@@ -29,6 +29,10 @@ std::span<Datatree> children_of(const Datatree &node);
 // is no memory. The child is valid until the next child is added to the same parent.
 Datatree *append_child(Datatree &parent, const char *tag, const char *ns);
 
+// Lets every add move its parent's array of children, and spoils and releases the old one, for all threads: a test
+// finds whoever holds a child across an add that may move it.
+void move_arrays_at_every_add(bool moves);
+
 // Sets the value to a copy of `value`. False if there is no memory.
 bool set_value(Datatree &node, std::string_view value);
 void set_operation(Datatree &node, uint32_t operation);

@@ -2,7 +2,12 @@
 
 #include <unistd.h>
 
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
 #include "exchange.h"
+#include "generator.h"
 #include "get_request.h"
 #include "mapped_request.h"
 #include "tree_lines.h"
@@ -68,6 +73,16 @@ std::vector<std::string> Device::read(const Nodes &nodes)
 std::string Device::native() const
 {
     return io::write_tree(router_->config(router::Datastore::candidate).root(), io::Secrets::shown);
+}
+
+void Device::load_everything()
+{
+    Generator generator(1);
+    for (int i = 0; i < 8; i++)
+        if (const std::string why = edit(generator.configuration()); !why.empty()) throw std::runtime_error(why);
+    const std::string file = SOURCE_DIR "/examples/neighbors-operational.xml";
+    std::ifstream in(file);
+    router_->load_operational(std::string{std::istreambuf_iterator<char>(in), {}}, file);
 }
 
 }  // namespace properties

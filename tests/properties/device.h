@@ -31,6 +31,11 @@ public:
     // The native configuration, as text.
     std::string native() const;
 
+    // Configurations one above the other, and operational data: whatever is asked for is there.
+    void load_everything();
+
+    const router::Router &router() const { return *router_; }
+
 private:
     std::filesystem::path folder_;
     std::unique_ptr<router::Router> router_;

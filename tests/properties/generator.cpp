@@ -23,6 +23,9 @@ struct Values {
     std::vector<std::string> values;
 };
 const std::vector<Values> special_values = {
+    {"afi-safi-name", {"IPV4_UNICAST"}},
+    {"neighbor-address", {"192.0.2.2"}},
+    {"peer-group-name", {"edge"}},
     {"global/config/router-id", {"192.0.2.1", "203.0.113.255"}},
     {"local-address", {"192.0.2.1", "Loopback0"}},
     {"cluster-id", {"192.0.2.77", "77", "4294967295"}},
@@ -81,6 +84,22 @@ std::vector<const model::OcNode *> written_leaves()
     for (const model::OcNode &node : model::openconfig_bgp())
         if (is_written(node)) leaves.push_back(&node);
     return leaves;
+}
+
+std::string some_instance(std::string_view schema)
+{
+    const std::string own = family_of(schema);
+    const std::string family = own.empty() ? families.front() : own;
+    std::string path;
+    for (size_t at = 0; at < schema.size();) {
+        const size_t end = std::min(schema.find('/', at + 1), schema.size());
+        path += schema.substr(at, end - at);
+        const std::string_view key = model::find_oc_node(schema.substr(0, end))->key;
+        if (!key.empty())
+            path += "[" + (key == "afi-safi-name" ? family : key == "neighbor-address" ? "192.0.2.2" : "edge") + "]";
+        at = end;
+    }
+    return path;
 }
 
 std::string Generator::value_of(const model::OcNode &leaf)

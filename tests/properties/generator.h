@@ -38,4 +38,7 @@ private:
 // The leaves and leaf-lists that a client writes, but for the keys, the names that repeat them, and the AS.
 std::vector<const model::OcNode *> written_leaves();
 
+// "/bgp/neighbors/neighbor[192.0.2.2]/config/peer-as" for a path of the schema, in one entry of each list.
+std::string some_instance(std::string_view schema);
+
 }  // namespace properties

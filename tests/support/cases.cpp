@@ -10,6 +10,7 @@
 #include <set>
 #include <sstream>
 
+#include "database_items.h"
 #include "mapping_run.h"
 #include "names.h"
 #include "nodes.h"
@@ -42,19 +43,6 @@ std::string joined(const std::vector<std::string> &lines)
 }
 
 // The lines of a tree without the indent that all of them share.
-std::string tree_of(const Case &it, const std::string &field)
-{
-    const auto found = it.fields.find(field);
-    if (found == it.fields.end()) return "";
-    size_t indent = std::string::npos;
-    for (const std::string &line : found->second)
-        if (!trimmed(line).empty()) indent = std::min(indent, line.find_first_not_of(' '));
-    std::string text;
-    for (const std::string &line : found->second)
-        if (!trimmed(line).empty() && trimmed(line) != "-") text += line.substr(indent) + "\n";
-    return text;
-}
-
 std::vector<std::string> lines_of(const Case &it, const std::string &field)
 {
     std::vector<std::string> lines;
@@ -134,14 +122,6 @@ uint32_t number_of_outcome(const std::string &text)
     return static_cast<uint32_t>(std::stoul(text, nullptr, 0));
 }
 
-uint32_t number_of_kind(const std::string &text)
-{
-    if (text == "get-config") return VMF_REQ_GET_CONFIG;
-    if (text == "edit") return VMF_REQ_EDIT;
-    if (text == "get") return VMF_REQ_GET;
-    return static_cast<uint32_t>(std::stoul(text));
-}
-
 // ---- What a case sets up --------------------------------------------------------------------
 
 // Entries of the native trees that a key handler would have left.
@@ -162,13 +142,7 @@ const std::map<std::string, const char *MapContext::*> keys = {{"af_key", &MapCo
 
 void set_up(const Case &it, MappingRun &run, Entries &entries)
 {
-    if (it.has("as")) run.know_as(static_cast<uint32_t>(std::stoul(it.text("as"))));
-    for (const std::string &line : lines_of(it, "limit")) {
-        const size_t equals = line.find(" = ");
-        ASSERT_NE(equals, std::string::npos) << line;
-        const auto limit = static_cast<uint32_t>(std::stoul(line.substr(equals + 3)));
-        run.database.put({.location = line.substr(0, equals), .words = {limit}, .only_in_candidate = true});
-    }
+    for (const platform::DatabaseRecord &record : records_of(it)) run.database.put(record);
     entries.tree.root() = {};
     for (const auto &[tag, place] : places) entries.make(tag.c_str());
     for (const std::string &word : split(words_of_field(it, "before"))) {
@@ -599,6 +573,42 @@ std::vector<Case> read_cases(const std::string &file, const std::vector<std::str
     }
     return in_full;
 }
+
+std::string tree_of(const Case &it, const std::string &field)
+{
+    const auto found = it.fields.find(field);
+    if (found == it.fields.end()) return "";
+    size_t indent = std::string::npos;
+    for (const std::string &line : found->second)
+        if (!trimmed(line).empty()) indent = std::min(indent, line.find_first_not_of(' '));
+    std::string text;
+    for (const std::string &line : found->second)
+        if (!trimmed(line).empty() && trimmed(line) != "-") text += line.substr(indent) + "\n";
+    return text;
+}
+
+uint32_t number_of_kind(const std::string &text)
+{
+    if (text == "get-config") return VMF_REQ_GET_CONFIG;
+    if (text == "edit") return VMF_REQ_EDIT;
+    if (text == "get") return VMF_REQ_GET;
+    return static_cast<uint32_t>(std::stoul(text));
+}
+
+std::vector<platform::DatabaseRecord> records_of(const Case &it)
+{
+    std::vector<platform::DatabaseRecord> records;
+    if (it.has("as")) records.push_back(framework::global_as_item(0, static_cast<uint32_t>(std::stoul(it.text("as")))));
+    for (const std::string &line : lines_of(it, "limit")) {
+        const size_t equals = line.find(" = ");
+        if (equals == std::string::npos) throw std::runtime_error("no value: " + line);
+        const auto limit = static_cast<uint32_t>(std::stoul(line.substr(equals + 3)));
+        records.push_back({.location = line.substr(0, equals), .words = {limit}, .only_in_candidate = true});
+    }
+    return records;
+}
+
+std::vector<Case> read_cases(const std::string &file) { return read_cases(file, field_names); }
 
 void register_cases(const std::vector<std::string> &files)
 {

@@ -66,9 +66,12 @@
 // at level 0 of any function.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
+
+#include "system_database.h"
 
 namespace support {
 
@@ -84,6 +87,16 @@ struct Case {
 
 // Throws std::runtime_error with file and line. `fields` are the names that a file may use.
 std::vector<Case> read_cases(const std::string &file, const std::vector<std::string> &fields);
+
+// The same with every field that there is.
+std::vector<Case> read_cases(const std::string &file);
+
+// The lines of a field as a tree text, and the request kind that a word stands for.
+std::string tree_of(const Case &it, const std::string &field);
+uint32_t number_of_kind(const std::string &text);
+
+// The items of the system database that a case names.
+std::vector<platform::DatabaseRecord> records_of(const Case &it);
 
 // Registers each case of each file as a test of its own.
 void register_cases(const std::vector<std::string> &files);
