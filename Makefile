@@ -11,7 +11,7 @@ run_packages := g++ cmake ninja-build pkg-config ccache libxml2-dev nlohmann-jso
 test_packages := $(run_packages) clang clang-format clang-tidy libclang-rt-14-dev binutils git \
 	libgtest-dev libyang2-tools
 
-.PHONY: run test format format-check tidy generate test-release test-sanitize clean
+.PHONY: run test format format-check tidy generate test-release test-sanitize test-thread clean
 
 run:
 	scripts/install-packages $(run_packages)
@@ -28,7 +28,8 @@ test:
 	$(MAKE) tidy
 	$(MAKE) test-sanitize
 
-test-release test-sanitize: test-%:
+# Threads under the thread sanitizer: `make test-thread`, which is not part of `make test`.
+test-release test-sanitize test-thread: test-%:
 	cmake --preset $*
 	cmake --build --preset $* -j $(JOBS)
 	ctest --preset $*
