@@ -11,7 +11,7 @@ run_packages := g++ cmake ninja-build pkg-config ccache libxml2-dev nlohmann-jso
 test_packages := $(run_packages) clang clang-format clang-tidy libclang-rt-14-dev binutils git \
 	libgtest-dev libyang2-tools
 
-.PHONY: run test format format-check tidy generate test-release test-sanitize test-thread clean
+.PHONY: run test fuzz format format-check tidy generate test-release test-sanitize test-thread clean
 
 run:
 	scripts/install-packages $(run_packages)
@@ -33,6 +33,16 @@ test-release test-sanitize test-thread: test-%:
 	cmake --preset $*
 	cmake --build --preset $* -j $(JOBS)
 	ctest --preset $*
+
+# Each fuzzer for so many seconds, as many at once as there are processors.
+FUZZ_SECONDS ?= 600
+fuzz:
+	scripts/install-packages $(test_packages)
+	cmake --preset sanitize
+	cmake --build --preset sanitize -j $(JOBS) --target fuzzers
+	cd build/sanitize && ls bin | sed -n 's/^fuzz_//p' | xargs -P $(JOBS) -I NAME sh -c \
+		'$(CURDIR)/scripts/fuzz bin/fuzz_NAME $(FUZZ_SECONDS) fuzz/NAME > fuzz_NAME.log 2>&1 || \
+		{ tail -n 40 fuzz_NAME.log; exit 1; }; tail -n 6 fuzz_NAME.log'
 
 format-check:
 	clang-format --dry-run -Werror $(SOURCES)

@@ -1,6 +1,7 @@
 #include "items.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace router {
 
@@ -106,27 +107,49 @@ struct Query {
 
 constexpr std::string_view any = ".*";
 
-// What a pattern asks for at the element that comes after those of `before`: a text, or any.
-std::string_view asked_after(std::string_view before, std::string_view pattern)
+// Whether a pattern may meet what lies below a place; both end where their text does.
+bool may_meet_below(std::string_view pattern, std::string_view place)
 {
-    for (auto skipped = std::count(before.begin(), before.end(), '/'); skipped > 0; skipped--) {
-        const size_t end = pattern.find('/');
-        if (end == std::string_view::npos) return any;
-        pattern.remove_prefix(end + 1);
+    while (!place.empty()) {
+        if (pattern.empty()) return true;  // ended in "/": all that lies below
+        const size_t pattern_end = pattern.find('/');
+        const size_t place_end = place.find('/');
+        const std::string_view wanted = pattern.substr(0, pattern_end);
+        if (pattern_end == std::string_view::npos || (wanted != any && wanted != place.substr(0, place_end)))
+            return false;
+        pattern.remove_prefix(pattern_end + 1);
+        place.remove_prefix(place_end + 1);
     }
-    if (pattern.empty()) return any;  // all that lies below
-    return pattern.substr(0, pattern.find('/'));
+    return true;
 }
 
-// The key that a pattern names, which may have a "/" in it; or any.
-std::string_view asked_key(const std::string &before, const Lists &lists, const Kind &kind, std::string_view pattern)
+// Whether a pattern that does not leave the end open ends like the locations of that kind.
+bool may_end_so(std::string_view pattern, std::string_view end)
 {
-    const std::string before_key = before + std::string(lists.before_key);
-    const std::string behind_key = std::string(lists.after_key).append(kind.before_code);
+    if (pattern.ends_with('/')) return true;
+    const auto length = std::count(end.begin(), end.end(), '/');
+    size_t begin = pattern.size();
+    for (auto left = length; left > 0 && begin != std::string_view::npos; left--)
+        begin = begin > 0 ? pattern.rfind('/', begin - 1) : std::string_view::npos;
+    return begin != std::string_view::npos && platform::meets(pattern.substr(begin), end);
+}
+
+bool has_any(std::string_view path)
+{
+    const std::string elements = "/" + std::string(path) + "/";
+    return elements.find("/.*/") != std::string::npos;
+}
+
+// The key that a pattern names, which may have a "/" in it; none if it leaves the key open, or what stands around it.
+std::optional<std::string_view> named_key(std::string_view before_key, std::string_view behind_key,
+                                          std::string_view pattern)
+{
     const size_t end = pattern.rfind(behind_key);
-    if (pattern.starts_with(before_key) && end != std::string_view::npos && end >= before_key.size())
-        return pattern.substr(before_key.size(), end - before_key.size());
-    return asked_after(before_key, pattern);
+    if (!pattern.starts_with(before_key) || end == std::string_view::npos || end < before_key.size())
+        return std::nullopt;
+    const std::string_view key = pattern.substr(before_key.size(), end - before_key.size());
+    if (has_any(key)) return std::nullopt;
+    return key;
 }
 
 // `key` is the entry's, as it stands in the locations.
@@ -149,22 +172,20 @@ void find_of_list(const Branch &bgp_entity, const std::string &before, const Lis
     const Branch *container = find_container(bgp_entity, lists.list_container);
     const Entries *entries = container != nullptr ? find_list(*container, lists.list) : nullptr;
     if (entries == nullptr) return;
-    const std::string_view key = asked_key(before, lists, kind, query.pattern);
-    const std::string up_to_code = location_of(before, lists, kind, key, {});
-    const std::string_view code =
-        asked_after(std::string_view(up_to_code).substr(0, up_to_code.size() - kind.after_code.size()), query.pattern);
-    if (!platform::meets(query.pattern, location_of(before, lists, kind, key, code))) return;  // of another kind
-
-    if (key == any) {
+    const std::string before_key = before + std::string(lists.before_key);
+    if (!may_meet_below(query.pattern, before_key) || !may_end_so(query.pattern, kind.after_code)) return;
+    const std::string behind_key = std::string(lists.after_key).append(kind.before_code);
+    const auto key = named_key(before_key, behind_key, query.pattern);
+    if (!key) {
         entries->for_each([&](const Branch &entry) {
             find_of_entry(entry, value_of(entry.members.front()), before, lists, kind, query);
         });
         return;
     }
     // However a client writes an address, it finds the neighbor.
-    const auto canonical = canonical_value(entries->schema().children.front(), key);
+    const auto canonical = canonical_value(entries->schema().children.front(), *key);
     const Branch *entry = canonical ? entries->find({&*canonical, 1}) : nullptr;
-    if (entry != nullptr) find_of_entry(*entry, key, before, lists, kind, query);
+    if (entry != nullptr) find_of_entry(*entry, *key, before, lists, kind, query);
 }
 
 void find_of_as(const Branch &four_byte_as, const std::string &as_numbers, const Query &query)

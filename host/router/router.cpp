@@ -4,6 +4,7 @@
 #include "edit.h"
 #include "items.h"
 #include "native_xml.h"
+#include "reading.h"
 #include "selection.h"
 #include "store.h"
 
@@ -18,10 +19,20 @@ static std::string message_of(const std::vector<Violation> &violations)
         if (!message.empty()) message += "; ";
         message += violation.path.empty() ? violation.rule : violation.path + ": " + violation.rule;
     }
-    return message;
+    return io::on_one_line(message);
 }
 
-Refused::Refused(std::vector<Violation> what) : std::runtime_error(message_of(what)), violations(std::move(what)) {}
+// Both quote values, which may have lines.
+static std::vector<Violation> a_line_each(std::vector<Violation> violations)
+{
+    for (Violation &violation : violations) violation.rule = io::on_one_line(violation.rule);
+    return violations;
+}
+
+Refused::Refused(std::vector<Violation> what)
+    : std::runtime_error(message_of(what)), violations(a_line_each(std::move(what)))
+{
+}
 
 // ---- The folder -----------------------------------------------------------------------------
 

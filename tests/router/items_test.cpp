@@ -244,6 +244,22 @@ TEST(FamilyItems, AGroupMayHaveASlashInItsName)
     EXPECT_EQ(found(made.router, group_limits("a", "0x0")), "");
 }
 
+TEST(FamilyItems, AGroupWithASlashIsFoundWhateverElementIsLeftOpen)
+{
+    TestRouter made;
+    edit(made.router, group_with("ipv4-unicast", "activate", "a/b"));
+    const std::string place = group_activation("a/b", "0x0");
+    for (const std::string element : {"65001", "nbr", "ord_q", "a", "b", "ord_s", "0x0", "activate"}) {
+        std::string open = place;
+        open.replace((open + "/").rfind("/" + element + "/") + 1, element.size(), ".*");
+        EXPECT_EQ(found(made.router, open), place + " = 1\n") << open;
+    }
+    for (const std::string &pattern : {std::string(grp), grp + "a/", grp + "a/b/", grp + "a/b/ord_s/"})
+        EXPECT_EQ(found(made.router, pattern), place + " = 1\n") << pattern;
+    for (const std::string &pattern : {grp + "a", grp + "b/", grp + ".*/ord_s/0x0/ord_c/activate"})
+        EXPECT_EQ(found(made.router, pattern), "") << pattern;
+}
+
 // ---- Prefix limits --------------------------------------------------------------------------
 
 TEST(PrefixLimitItem, BeginsWithTheLimit)

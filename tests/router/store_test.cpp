@@ -345,6 +345,8 @@ const DamageCase damages[] = {
      ":5: damaged: /bgp/instance[instance-name='x']/instance-as", "red"},
     {"ValueOutOfItsTypeFarBelow", in_default_vrf("<global>\n<router-id>red</router-id>\n</global>\n"),
      ":11: damaged: " + vrf_path + "/global", "red"},
+    {"ValueWithLineEndsInALine", in_default_vrf("<global>\n<router-id>\nred\n</router-id>\n</global>\n"), ":",
+     "damaged: " + vrf_path + "/global/router-id: "},
     {"UnknownNodeFarBelow", in_default_vrf("<global>\n<colour/>\n</global>\n"),
      ":11: damaged: " + vrf_path + "/global: ", "colour"},
     {"LeafTwiceFarBelow", in_default_vrf("<global>\n<graceful-restart/>\n<graceful-restart/>\n</global>\n"), ":",
@@ -380,6 +382,7 @@ TEST_P(Damage, IsNamedWithFileAndLine)
         const std::string begin = (folder / name).string() + GetParam().begin;
         EXPECT_EQ(error.substr(0, begin.size()), begin);
         EXPECT_NE(error.find(GetParam().part), std::string::npos) << error;
+        EXPECT_EQ(error.find('\n'), std::string::npos) << error;
         EXPECT_EQ(read_file(folder / name), damaged_text(GetParam())) << "a person may want to mend it";
     }
 }
