@@ -1,5 +1,5 @@
-// The least that the work can cost: the same trees from plain records, by a walk that was written for these nodes alone,
-// without a platform, logs, tests or outcomes.
+// The least that the work can cost: the same trees from plain records, by a walk that was written for these nodes
+// alone, without a platform, logs, tests or outcomes.
 #pragma once
 
 #include <cstddef>
