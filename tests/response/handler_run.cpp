@@ -44,16 +44,6 @@ std::vector<std::string> lines_of(const Case &it, const std::string &field)
     return lines;
 }
 
-// The lines of a tree without the indent that all of them share.
-std::string tree_of(const Case &it, const std::string &field)
-{
-    std::string text;
-    if (!it.has(field)) return text;
-    const size_t indent = it.fields.at(field).empty() ? 0 : it.fields.at(field)[0].find_first_not_of(' ');
-    for (const std::string &line : it.fields.at(field)) text += line.substr(std::min(indent, line.size())) + "\n";
-    return text;
-}
-
 std::vector<std::string> split(const std::string &text)
 {
     std::istringstream in(text);
