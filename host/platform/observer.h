@@ -2,6 +2,7 @@
 // trace of what a handler adds, for an explanation of a request.
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 
 #include "vmf_map_types.h"
@@ -35,15 +36,25 @@ const Observer *observe(const Observer *observer);
 
 extern thread_local constinit const Observer *current_observer;
 
-// What the platform's operations call first, and what its adds call last.
+// What the platform's operations call first, and what its adds call last. The frequent ones give a function that makes
+// the record, which is called only while somebody watches.
 inline uint32_t observed(const Operation &operation)
 {
     return current_observer != nullptr ? current_observer->before(current_observer->self, operation) : 0;
 }
-inline void observed_result(const Operation &operation, const Datatree &result)
+template<std::invocable MakeOperation>
+uint32_t observed(const MakeOperation &operation)
 {
-    if (current_observer != nullptr && current_observer->after != nullptr)
-        current_observer->after(current_observer->self, operation, result);
+    if (current_observer == nullptr) [[likely]]
+        return 0;
+    return observed(operation());
+}
+template<std::invocable MakeOperation>
+void observed_result(const MakeOperation &operation, const Datatree &result)
+{
+    if (current_observer == nullptr || current_observer->after == nullptr) [[likely]]
+        return;
+    current_observer->after(current_observer->self, operation(), result);
 }
 
 }  // namespace platform

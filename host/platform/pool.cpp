@@ -27,14 +27,13 @@ void release_block(void *block)
 
 void *grow_block(void *block, size_t size)
 {
-    if (block == nullptr) return allocate_block(size);
-    const size_t old_size = head_of(block)->size;
-    auto *head = static_cast<BlockHead *>(std::realloc(head_of(block), sizeof(BlockHead) + size));
+    if (size > SIZE_MAX - sizeof(BlockHead)) return nullptr;
+    void *old_head = block != nullptr ? head_of(block) : nullptr;
+    auto *head = static_cast<BlockHead *>(std::realloc(old_head, sizeof(BlockHead) + size));
     if (head == nullptr) return nullptr;
-    auto *bytes = reinterpret_cast<char *>(head + 1);
-    if (size > old_size) std::memset(bytes + old_size, 0, size - old_size);
+    if (block == nullptr) head->index = nullptr;
     head->size = size;
-    return bytes;
+    return head + 1;
 }
 
 }  // namespace platform

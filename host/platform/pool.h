@@ -22,7 +22,8 @@ inline BlockHead *head_of(void *block) { return static_cast<BlockHead *>(block) 
 void *allocate_block(size_t size);
 void release_block(void *block);
 
-// Grows a block (null: makes one); the new bytes are zero. Null if there is no memory, and the old block stands.
+// Grows a block (null: makes one). The new bytes may hold anything. Null if there is no memory, and the old block
+// stands.
 void *grow_block(void *block, size_t size);
 
 }  // namespace platform

@@ -50,16 +50,17 @@ using platform::TraceBuffer;
 
 extern "C" {
 
+// Asked about ten times a node, mostly of traces.
 uint32_t vmf_debug_should_log(const VmfDebugContext *debug_ctx, uint32_t level)
 {
     if (debug_ctx == nullptr) return 0;
     const void *filter = nullptr;
-    switch (level) {
-    case 0: filter = debug_ctx->err_filter; break;
-    case 2: filter = debug_ctx->dbg_filter; break;
-    case 3: filter = debug_ctx->trc_filter; break;
-    default: return 0;
-    }
+    if (level == 3) [[likely]]
+        filter = debug_ctx->trc_filter;
+    else if (level == 0)
+        filter = debug_ctx->err_filter;
+    else if (level == 2)
+        filter = debug_ctx->dbg_filter;
     return filter != nullptr && static_cast<const LogFilter *>(filter)->enabled ? 1 : 0;
 }
 

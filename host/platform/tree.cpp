@@ -1,5 +1,7 @@
 #include "tree.h"
 
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <cstdlib>
 #include <cstring>
@@ -27,6 +29,7 @@ bool has_operation(const Datatree &node) { return has(node, VMF_DT_OPERATION); }
 
 // The second byte of presence is the framework's own.
 static constexpr uint8_t selected = 1;
+static constexpr uint8_t named_by_table = 2;  // tag and namespace are those of the process's table of names
 bool is_selected(const Datatree &node) { return (node.present[1] & selected) != 0; }
 
 std::span<Datatree> children_of(const Datatree &node)
@@ -55,15 +58,31 @@ static bool move_array(Datatree &parent)
     return true;
 }
 
-// Doubles the array, so that adding a child costs the same however many there are. What room there is, the block tells
-// and not the record: an array comes to a record without its capacity.
-static bool make_room(Datatree &parent)
+// How many children the last node of a tag had: the next one will have as many. Entries of a list are alike, and an
+// array that is right from the start neither moves nor leaves room unused.
+struct Room {
+    const char *tag;
+    uint32_t count;
+};
+static Room &room_of(const Datatree &parent)
+{
+    thread_local constinit std::array<Room, 256> rooms = {};
+    Room &room = rooms[reinterpret_cast<uintptr_t>(parent.tag) / 8 % rooms.size()];
+    if (room.tag != parent.tag) room = {parent.tag, 0};
+    return room;
+}
+
+// Doubles an array that is full, so that adding a child costs the same however many there are. What room there is, the
+// block tells and not the record: an array comes to a record without its capacity.
+static bool make_room(Datatree &parent, const Room &room)
 {
     if (moves_arrays.load(std::memory_order_relaxed) && parent.subtrees != nullptr) return move_array(parent);
+    constexpr size_t least = 2;
+    constexpr size_t most_at_first = 32;
     const auto count = static_cast<size_t>(parent.subtree_count);
     size_t capacity = parent.subtrees != nullptr ? head_of(parent.subtrees)->size / sizeof(Datatree) : 0;
     if (capacity <= count) {
-        capacity = count < 2 ? 2 : count * 2;
+        capacity = std::max(least, capacity == 0 ? std::min<size_t>(room.count, most_at_first) : count * 2);
         void *block = grow_block(parent.subtrees, capacity * sizeof(Datatree));
         if (block == nullptr) return false;
         parent.subtrees = static_cast<Datatree *>(block);
@@ -72,17 +91,20 @@ static bool make_room(Datatree &parent)
     return true;
 }
 
-Datatree *append_child(Datatree &parent, const char *tag, const char *ns)
+static Datatree *append(Datatree &parent, const char *tag, const char *ns, uint8_t marks)
 {
     if (!has(parent, VMF_DT_SUBTREES)) parent.subtrees = nullptr;
     if (parent.subtrees == nullptr || parent.subtree_count < 0) parent.subtree_count = 0;
-    if (!make_room(parent)) return nullptr;
+    Room &room = room_of(parent);
+    if (!make_room(parent, room)) return nullptr;
     if (ArrayIndex *index = head_of(parent.subtrees)->index) index->follow(parent.subtree_count, 1);
     parent.present[0] |= VMF_DT_SUBTREES;
     Datatree &child = parent.subtrees[parent.subtree_count++];
+    room.count = static_cast<uint32_t>(parent.subtree_count);
     child = {};
     child.tag = const_cast<char *>(tag);
     child.present[0] = VMF_DT_TAG;
+    child.present[1] = marks;
     if (ns != nullptr) {
         child.namespace_ = const_cast<char *>(ns);
         child.present[0] |= VMF_DT_NAMESPACE;
@@ -90,10 +112,14 @@ Datatree *append_child(Datatree &parent, const char *tag, const char *ns)
     return &child;
 }
 
+Datatree *append_child(Datatree &parent, const char *tag, const char *ns) { return append(parent, tag, ns, 0); }
+
 bool set_value(Datatree &node, std::string_view value)
 {
-    char *copy = value.empty() ? strdup("") : strndup(value.data(), value.size());
+    auto *copy = static_cast<char *>(std::malloc(value.size() + 1));
     if (copy == nullptr) return false;
+    std::memcpy(copy, value.data(), value.size());
+    copy[value.size()] = '\0';
     if (has(node, VMF_DT_VALUE)) std::free(node.value);
     node.value = copy;
     node.present[0] |= VMF_DT_VALUE;
@@ -132,6 +158,14 @@ static ArrayIndex &index_of(Datatree &parent)
     return *index;
 }
 
+// Names that both come from the table are the same only where their addresses are.
+static bool is_named(const Datatree &node, const ChildName &name)
+{
+    if ((node.present[1] & named_by_table) == 0) return has_name(node, name);
+    return node.tag == name.tag && (name.ns == nullptr || node.namespace_ == name.ns);
+}
+
+// `name` is of the table of names, here and below.
 static Datatree *find_child(Datatree &parent, const ChildName &name)
 {
     const std::span<Datatree> children = children_of(parent);
@@ -140,7 +174,7 @@ static Datatree *find_child(Datatree &parent, const ChildName &name)
         return at >= 0 ? &children[static_cast<size_t>(at)] : nullptr;
     }
     for (Datatree &child : children)
-        if (has_name(child, name)) return &child;
+        if (is_named(child, name)) return &child;
     return nullptr;
 }
 
@@ -158,7 +192,7 @@ static Datatree *find_entry(Datatree &parent, const ChildName &list, const char 
         return at >= 0 ? &children[static_cast<size_t>(at)] : nullptr;
     }
     for (Datatree &child : children)
-        if (has_name(child, list) && same_key(key_value_of(child, key_tag), key_value)) return &child;
+        if (is_named(child, list) && same_key(key_value_of(child, key_tag), key_value)) return &child;
     return nullptr;
 }
 
@@ -167,9 +201,8 @@ static Datatree *find_entry(Datatree &parent, const ChildName &list, const char 
 // What an operation source says. It is taken before anything is added, since the source may lie in an array that grows.
 struct Source {
     explicit Source(const Datatree *node)
-        : writes(node != nullptr && !platform::has_operation(*node)),
-          has_operation(node != nullptr && platform::has_operation(*node)),
-          operation(has_operation ? node->operation : 0)
+        : writes(node != nullptr && !has(*node, VMF_DT_OPERATION)),
+          has_operation(node != nullptr && has(*node, VMF_DT_OPERATION)), operation(has_operation ? node->operation : 0)
     {
     }
 
@@ -182,7 +215,7 @@ struct Source {
 // added without one, a companion or a selection, leaves the mark.
 static void note_write(Datatree &node, const Source &source)
 {
-    if (!source.writes || !has_operation(node)) return;
+    if (!source.writes || !has(node, VMF_DT_OPERATION)) return;
     if (node.operation == VMF_OP_DELETE || node.operation == VMF_OP_REMOVE) node.operation = VMF_OP_REPLACE;
 }
 
@@ -203,7 +236,8 @@ struct Added {
 };
 
 // The end of every add.
-static uint32_t done(const Operation &asked, const Added &added, Datatree **result)
+template<class MakeOperation>
+static uint32_t done(const MakeOperation &asked, const Added &added, Datatree **result)
 {
     if (added.outcome != VMF_RC_OK) return added.outcome;
     if (result != nullptr) *result = added.node;
@@ -211,19 +245,24 @@ static uint32_t done(const Operation &asked, const Added &added, Datatree **resu
     return VMF_RC_OK;
 }
 
+static Datatree *append_named(Datatree &parent, const ChildName &name)
+{
+    return append(parent, name.tag, name.ns, named_by_table);
+}
+
 static Datatree *find_or_append(Datatree &parent, const ChildName &name)
 {
     Datatree *found = find_child(parent, name);
-    return found != nullptr ? found : append_child(parent, name.tag, name.ns);
+    return found != nullptr ? found : append_named(parent, name);
 }
 
 static Datatree *find_or_append_entry(Datatree &parent, const ChildName &list, const char *key_tag,
                                       const char *key_value)
 {
     if (Datatree *found = find_entry(parent, list, key_tag, key_value)) return found;
-    Datatree *entry = append_child(parent, list.tag, list.ns);
+    Datatree *entry = append_named(parent, list);
     if (entry == nullptr) return nullptr;
-    Datatree *key = append_child(*entry, key_tag, list.ns);
+    Datatree *key = append_named(*entry, {key_tag, list.ns});
     if (key == nullptr || (key_value != nullptr && !set_value(*key, key_value))) {
         release(*entry);  // the last record of the array
         parent.subtree_count--;
@@ -253,7 +292,7 @@ static Added add_path(Datatree &root, const char *text, const Request &request)
             node = find_or_append_entry(*node, name, element.key, request.value);
             value_named_key = true;
         } else if (request.repeat && !value_named_key && &element == &path.elements.back()) {
-            node = append_child(*node, name.tag, name.ns);
+            node = append_named(*node, name);
         } else {
             node = find_or_append(*node, name);
         }
@@ -266,7 +305,7 @@ static Added add_path(Datatree &root, const char *text, const Request &request)
 static uint32_t add_path_operation(const char *operation, Datatree *parent, const char *path, const char *ns,
                                    const char *value, const Datatree *source, Datatree **result, uint32_t repeat)
 {
-    const Operation asked = {operation, parent, path, ns, value, source, repeat};
+    const auto asked = [&] { return Operation{operation, parent, path, ns, value, source, repeat}; };
     if (uint32_t failed = observed(asked)) return failed;
     if (parent == nullptr || path == nullptr) return VMF_RC_BAD_ARGS;
     const Added added = add_path(*parent, path, {intern(ns), value, Source(source), repeat != 0});
@@ -287,7 +326,9 @@ uint32_t vmf_map_datatree_add_subtree(MapContext * /*ctx*/, Datatree *parent, co
                                       const char *value, const Datatree *operation_source, Datatree **result,
                                       uint32_t flag)
 {
-    const Operation asked = {"vmf_map_datatree_add_subtree", parent, tag, ns, value, operation_source, flag};
+    const auto asked = [&] {
+        return Operation{"vmf_map_datatree_add_subtree", parent, tag, ns, value, operation_source, flag};
+    };
     if (uint32_t failed = observed(asked)) return failed;
     if (parent == nullptr || tag == nullptr) return VMF_RC_BAD_ARGS;
     const Source source(operation_source);
@@ -315,7 +356,9 @@ uint32_t vmf_map_datatree_add_path_common(MapContext * /*ctx*/, Datatree *parent
 uint32_t vmf_map_datatree_add_list_node(MapContext * /*ctx*/, Datatree *parent, const char *list_tag, const char *ns,
                                         const char *key_tag, const char *key_value, Datatree **result)
 {
-    const Operation asked = {"vmf_map_datatree_add_list_node", parent, list_tag, ns, key_value, nullptr, 0};
+    const auto asked = [&] {
+        return Operation{"vmf_map_datatree_add_list_node", parent, list_tag, ns, key_value, nullptr, 0};
+    };
     if (uint32_t failed = observed(asked)) return failed;
     if (parent == nullptr || list_tag == nullptr || key_tag == nullptr) return VMF_RC_BAD_ARGS;
     Datatree *entry = find_or_append_entry(*parent, {intern(list_tag), intern(ns)}, intern(key_tag), key_value);

@@ -22,20 +22,37 @@ constexpr At here(const char *function = __builtin_FUNCTION(), const char *file 
     return {function, file, line};
 }
 
-// Asserts `ctx` and its debug context, logs "Start". Every mapping function opens with it.
-void log_start(MapContext *ctx, At at = here());
+// Writes "FILE: LINE EXPRESSION -- assertion failed" to stderr and ends the process with a memory fault at address 1.
+[[noreturn]] void assertion_failed(const At &at, const char *expression);
 
-void say_end(MapContext *ctx, At at);
-
-// Logs "End" and gives `outcome` back. Every return but the one for bad arguments goes through it.
-inline uint32_t log_end(MapContext *ctx, uint32_t outcome, At at = here())
+// An address that the compiler must take as unknown: the member of a record that is not null never lies at null, and
+// the test for it, with the text of its assertion, would be removed.
+inline bool lies_at_null(const void *address)
 {
-    say_end(ctx, at);
-    return outcome;
+    __asm__("" : "+r"(address));
+    return address == nullptr;
 }
 
-// Writes "FILE: LINE EXPRESSION -- assertion failed" to stderr and ends the process with a memory fault at address 1.
-[[noreturn]] void assertion_failed(At at, const char *expression);
+// What of a statement is left when one of its channels is on; the log's test is done.
+void speak_start(MapContext *ctx, const At &at, uint32_t log_is_on);
+void speak_end(MapContext *ctx, const At &at, uint32_t log_is_on);
+
+// Asserts `ctx` and its debug context, logs "Start". Every mapping function opens with it.
+inline void log_start(MapContext *ctx, const At &at = here())
+{
+    if (ctx == nullptr) assertion_failed(at, "NULL != ctx");
+    const uint32_t log_is_on = vmf_debug_should_log(&ctx->_debug_ctx, 3);
+    if (lies_at_null(&ctx->_debug_ctx)) assertion_failed(at, "NULL != (&((ctx)->_debug_ctx))");
+    if (__builtin_expect(log_is_on != 0 || ctx->_debug_ctx.trace_enabled != 0, 0)) speak_start(ctx, at, log_is_on);
+}
+
+// Logs "End" and gives `outcome` back. Every return but the one for bad arguments goes through it.
+inline uint32_t log_end(MapContext *ctx, uint32_t outcome, const At &at = here())
+{
+    const uint32_t log_is_on = vmf_debug_should_log(&ctx->_debug_ctx, 3);
+    if (__builtin_expect(log_is_on != 0 || ctx->_debug_ctx.trace_enabled != 0, 0)) speak_end(ctx, at, log_is_on);
+    return outcome;
+}
 
 // Formats one numbered line into the trace buffer. Only for the statements below, which ask first whether it is on.
 void trace_line(const VmfDebugContext *debug, const char *format, ...) __attribute__((format(printf, 2, 3)));
@@ -54,21 +71,13 @@ void trace_line(const VmfDebugContext *debug, const char *format, ...) __attribu
 #define VMF_SPEAK_(speaker, debug, at, log_is_on, prefix, filter, text, ...)                                           \
     do {                                                                                                               \
         static uint32_t site = 0xFFFFFFFF;                                                                             \
-        if ((log_is_on) != 0)                                                                                          \
+        if (__builtin_expect((log_is_on) != 0, 0))                                                                     \
             _kos_dt_log_filter_adv((debug)->filter, 0, 0, 0, 0, 0, &site, prefix ": VMF: ctx=%p," text,                \
                                    static_cast<const void *>(speaker) __VA_OPT__(, ) __VA_ARGS__);                     \
-        if ((debug)->trace_enabled != 0)                                                                               \
+        if (__builtin_expect((debug)->trace_enabled != 0, 0))                                                          \
             trace_line(debug, "#%u: " prefix ": %s:%d ctx=%p," text, ret_nc_vmf_trace_index_incr(), (at).function,     \
                        (at).line, static_cast<const void *>(speaker) __VA_OPT__(, ) __VA_ARGS__);                      \
     } while (false)
 
 // A text for a `%s`, since texts of a request may be absent.
 constexpr const char *shown(const char *text) { return text != nullptr ? text : "(null)"; }
-
-// An address that the compiler must take as unknown: the member of a record that is not null never lies at null, and
-// the test for it, with the text of its assertion, would be removed.
-inline bool lies_at_null(const void *address)
-{
-    __asm__("" : "+r"(address));
-    return address == nullptr;
-}

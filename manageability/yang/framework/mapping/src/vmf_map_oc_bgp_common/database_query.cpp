@@ -1,6 +1,6 @@
 #include "database_query.h"
 
-uint32_t next_result(MapContext *ctx, Query *query, At at)
+uint32_t next_result(MapContext *ctx, Query *query, const At &at)
 {
     uint32_t outcome = sysdb_backend_result_set_iterate_next(query->session, query->result_set, &query->result);
     if (outcome == SYSDB_END_OF_PART) {
@@ -18,7 +18,7 @@ uint32_t next_result(MapContext *ctx, Query *query, At at)
     return query->result != nullptr ? VMF_RC_OK : static_cast<uint32_t>(SYSDB_NOTHING_FOUND);
 }
 
-uint32_t locate_result(MapContext *ctx, Query *query, At at)
+uint32_t locate_result(MapContext *ctx, Query *query, const At &at)
 {
     query->location = nullptr;
     uint32_t outcome = sysdb_backend_result_get_location(query->session, query->result, &query->location);

@@ -12,9 +12,9 @@ struct Query {
 };
 
 // The next record. The end of a part is passed over once; a second one in a row is a failure. Outcome 2: there is none.
-[[nodiscard]] uint32_t next_result(MapContext *ctx, Query *query, At at);
+[[nodiscard]] uint32_t next_result(MapContext *ctx, Query *query, const At &at);
 
 // Where the record lies.
-[[nodiscard]] uint32_t locate_result(MapContext *ctx, Query *query, At at);
+[[nodiscard]] uint32_t locate_result(MapContext *ctx, Query *query, const At &at);
 
 void free_result(Query *query);

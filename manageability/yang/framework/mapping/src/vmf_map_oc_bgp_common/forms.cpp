@@ -95,7 +95,7 @@ uint32_t refuse_tag(MapContext *ctx, const char *tag)
     return VMF_RC_UNSUPPORTED;
 }
 
-uint32_t check_identity(MapContext *ctx, const Datatree *node, At at)
+uint32_t check_identity(MapContext *ctx, const Datatree *node, const At &at)
 {
     if (vmf_map_validate_data_ns(ctx, node, OC_BGP_TYPES_NS, 0) == 0) return VMF_RC_OK;
     VMF_ERR(ctx, at, "Identityref node validation failed!");
@@ -111,19 +111,21 @@ void force_removal(Datatree *node) { set_operation(node, VMF_OP_REMOVE); }
 
 // ---- Leaves ---------------------------------------------------------------------------------
 
-uint32_t plain_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &native, At at)
+uint32_t plain_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &native, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     return log_end(ctx, add(ctx, out, native, leaf_gives(ctx, node)), at);
 }
 
-uint32_t fan_out_leaf(MapContext *ctx, Datatree *node, Datatree *out, std::initializer_list<Native> natives, At at)
+uint32_t fan_out_leaf(MapContext *ctx, Datatree *node, Datatree *out, std::initializer_list<Native> natives,
+                      const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     return log_end(ctx, add_all(ctx, out, natives, leaf_gives(ctx, node)), at);
 }
 
-uint32_t plain_flag_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &native, Flags on_read, At at)
+uint32_t plain_flag_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &native, Flags on_read,
+                         const At &at)
 {
     return branching_leaf(ctx, node, out, {.read = {native}, .remove = {native}, .write = {native}}, on_read, at);
 }
@@ -139,7 +141,8 @@ uint32_t add_branch(MapContext *ctx, const Datatree *node, Datatree *out, const 
     return add_rows(ctx, node, out, branches.write, branch);
 }
 
-uint32_t branching_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Branches &branches, Flags on_read, At at)
+uint32_t branching_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Branches &branches, Flags on_read,
+                        const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     const uint32_t outcome = add_branch(ctx, node, out, branches);
@@ -148,7 +151,7 @@ uint32_t branching_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Br
 }
 
 uint32_t repeat_key(MapContext *ctx, const Datatree *node, Datatree *out, Datatree *Ctx::*entry,
-                    std::initializer_list<Native> natives, Flags on_read, At at)
+                    std::initializer_list<Native> natives, Flags on_read, const At &at)
 {
     switch (branch_of(ctx, node)) {
     case Branch::read: raise_flags(ctx, on_read); return add_until_failure(ctx, out, natives, selection_only);
@@ -161,24 +164,25 @@ uint32_t repeat_key(MapContext *ctx, const Datatree *node, Datatree *out, Datatr
 }
 
 uint32_t twin_leaf(MapContext *ctx, Datatree *node, Datatree *out, Datatree *Ctx::*entry,
-                   std::initializer_list<Native> natives, Flags on_read, At at)
+                   std::initializer_list<Native> natives, Flags on_read, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     return log_end(ctx, repeat_key(ctx, node, out, entry, natives, on_read, at), at);
 }
 
-uint32_t state_leaf(MapContext *ctx, Datatree *node, Datatree *out, std::initializer_list<Native> natives, At at)
+uint32_t state_leaf(MapContext *ctx, Datatree *node, Datatree *out, std::initializer_list<Native> natives, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     return log_end(ctx, add_all(ctx, out, natives, selection_only), at);
 }
 
-uint32_t state_flag_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &native, Flags raises, At at)
+uint32_t state_flag_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &native, Flags raises,
+                         const At &at)
 {
     return state_flag_leaf(ctx, node, out, RowList{native}, raises, at);
 }
 
-uint32_t state_flag_leaf(MapContext *ctx, Datatree *node, Datatree *out, RowList rows, Flags raises, At at)
+uint32_t state_flag_leaf(MapContext *ctx, Datatree *node, Datatree *out, RowList rows, Flags raises, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     const uint32_t outcome = select_rows(ctx, out, rows);
@@ -187,7 +191,7 @@ uint32_t state_flag_leaf(MapContext *ctx, Datatree *node, Datatree *out, RowList
 }
 
 static uint32_t write_presence(MapContext *ctx, Datatree *node, Datatree *out, const Native &native,
-                               const char *set_word, At at)
+                               const char *set_word, const At &at)
 {
     const char *value = value_of(node);
     const bool is_true = value != nullptr && vmf_map_do_these_match(value, "true") != 0;
@@ -204,7 +208,7 @@ static uint32_t write_presence(MapContext *ctx, Datatree *node, Datatree *out, c
 }
 
 uint32_t presence_boolean_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &native,
-                               const char *set_word, At at)
+                               const char *set_word, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     switch (branch_of(ctx, node)) {
@@ -215,7 +219,7 @@ uint32_t presence_boolean_leaf(MapContext *ctx, Datatree *node, Datatree *out, c
     return log_end(ctx, write_presence(ctx, node, out, native, set_word, at), at);
 }
 
-uint32_t key_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &entry, const Native &key, At at)
+uint32_t key_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &entry, const Native &key, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     Datatree *added = nullptr;
@@ -228,7 +232,7 @@ uint32_t key_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &
 
 // ---- Containers -----------------------------------------------------------------------------
 
-bool maps_itself(MapContext *ctx, int32_t subtree_count, At at)
+bool maps_itself(MapContext *ctx, int32_t subtree_count, const At &at)
 {
     if (subtree_count != 0)
         VMF_TRC(ctx, at, "No mapping done for this node");
@@ -238,7 +242,7 @@ bool maps_itself(MapContext *ctx, int32_t subtree_count, At at)
 }
 
 uint32_t selection(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                   std::initializer_list<Native> natives, At at)
+                   std::initializer_list<Native> natives, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     if (!maps_itself(ctx, subtree_count, at)) return log_end(ctx, VMF_RC_OK, at);
@@ -246,7 +250,7 @@ uint32_t selection(MapContext *ctx, Datatree *node, int32_t subtree_count, Datat
 }
 
 uint32_t flagging_selection(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                            std::initializer_list<Native> natives, Flags raises, At at)
+                            std::initializer_list<Native> natives, Flags raises, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     raise_flags(ctx, raises);
@@ -255,7 +259,7 @@ uint32_t flagging_selection(MapContext *ctx, Datatree *node, int32_t subtree_cou
 }
 
 uint32_t state_selection(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                         std::initializer_list<Native> natives, At at)
+                         std::initializer_list<Native> natives, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     if (!maps_itself(ctx, subtree_count, at)) return log_end(ctx, VMF_RC_OK, at);
@@ -270,7 +274,7 @@ static Given removing_container_gives(const MapContext *ctx, Datatree *node)
 }
 
 uint32_t removing_selection(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                            std::initializer_list<Native> natives, At at)
+                            std::initializer_list<Native> natives, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     if (!maps_itself(ctx, subtree_count, at)) return log_end(ctx, VMF_RC_OK, at);
@@ -278,7 +282,7 @@ uint32_t removing_selection(MapContext *ctx, Datatree *node, int32_t subtree_cou
 }
 
 uint32_t removing_selection_by_turns(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                                     std::initializer_list<Native> natives, At at)
+                                     std::initializer_list<Native> natives, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     uint32_t last = VMF_RC_OK;
@@ -288,7 +292,7 @@ uint32_t removing_selection_by_turns(MapContext *ctx, Datatree *node, int32_t su
     return log_end(ctx, last, at);
 }
 
-uint32_t silent(MapContext *ctx, Datatree *node, Datatree *out, At at)
+uint32_t silent(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     return log_end(ctx, VMF_RC_OK, at);
@@ -296,28 +300,28 @@ uint32_t silent(MapContext *ctx, Datatree *node, Datatree *out, At at)
 
 // ---- Bodies written by hand -----------------------------------------------------------------
 
-uint32_t forward(MapContext *ctx, Datatree *node, Datatree *out, VmfLeafHandler *body, At at)
+uint32_t forward(MapContext *ctx, Datatree *node, Datatree *out, VmfLeafHandler *body, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     return log_end(ctx, body(ctx, node, out), at);
 }
 
 uint32_t forward(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out, VmfContainerHandler *body,
-                 At at)
+                 const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     return log_end(ctx, body(ctx, node, subtree_count, out), at);
 }
 
 uint32_t flagging_container(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                            VmfContainerHandler *body, Flags raises, At at)
+                            VmfContainerHandler *body, Flags raises, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     raise_flags(ctx, raises);
     return log_end(ctx, body(ctx, node, subtree_count, out), at);
 }
 
-uint32_t flagging_leaf(MapContext *ctx, Datatree *node, Datatree *out, VmfLeafHandler *body, Flags raises, At at)
+uint32_t flagging_leaf(MapContext *ctx, Datatree *node, Datatree *out, VmfLeafHandler *body, Flags raises, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     const uint32_t outcome = body(ctx, node, out);

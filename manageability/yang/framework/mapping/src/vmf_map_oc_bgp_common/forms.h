@@ -129,7 +129,7 @@ using RowList = std::initializer_list<Row>;
 [[nodiscard]] uint32_t refuse_tag(MapContext *ctx, const char *tag);
 
 // A family's name is an identity of the module of BGP types, whatever it is called.
-[[nodiscard]] uint32_t check_identity(MapContext *ctx, const Datatree *node, At at);
+[[nodiscard]] uint32_t check_identity(MapContext *ctx, const Datatree *node, const At &at);
 
 // A list entry's operation goes to the native entry that its key made.
 void take_list_operation(const MapContext *ctx, Datatree *entry);
@@ -140,15 +140,15 @@ void force_removal(Datatree *node);
 // ---- Leaves ---------------------------------------------------------------------------------
 
 // One native path with the pair of the branch.
-uint32_t plain_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &native, At at = here());
+uint32_t plain_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &native, const At &at = here());
 
 // Several native paths with that pair; only the last outcome counts.
 uint32_t fan_out_leaf(MapContext *ctx, Datatree *node, Datatree *out, std::initializer_list<Native> natives,
-                      At at = here());
+                      const At &at = here());
 
 // The same with flags that a read raises, whatever the outcome.
 uint32_t plain_flag_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &native, Flags on_read,
-                         At at = here());
+                         const At &at = here());
 
 // A leaf whose branches name native paths of their own, until one fails; a read raises flags, whatever the outcome.
 struct Branches {
@@ -156,76 +156,77 @@ struct Branches {
 };
 [[nodiscard]] uint32_t add_branch(MapContext *ctx, const Datatree *node, Datatree *out, const Branches &branches);
 uint32_t branching_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Branches &branches, Flags on_read = {},
-                        At at = here());
+                        const At &at = here());
 
 // A key that is repeated as a leaf below `config` and `state`. A read selects what the entry is known by; a removal
 // takes the native entry away, where one stands; a write has nothing to say. The body, without the guard.
 [[nodiscard]] uint32_t repeat_key(MapContext *ctx, const Datatree *node, Datatree *out, Datatree *Ctx::*entry,
-                                  std::initializer_list<Native> natives, Flags on_read, At at);
+                                  std::initializer_list<Native> natives, Flags on_read, const At &at);
 uint32_t twin_leaf(MapContext *ctx, Datatree *node, Datatree *out, Datatree *Ctx::*entry,
-                   std::initializer_list<Native> natives, Flags on_read, At at = here());
+                   std::initializer_list<Native> natives, Flags on_read, const At &at = here());
 
 // Selections whatever the kind, since only a get reaches them; only the last outcome counts.
 uint32_t state_leaf(MapContext *ctx, Datatree *node, Datatree *out, std::initializer_list<Native> natives,
-                    At at = here());
+                    const At &at = here());
 
 // Selections that raise flags, whatever the outcome: one, or several until one fails.
 uint32_t state_flag_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &native, Flags raises,
-                         At at = here());
-uint32_t state_flag_leaf(MapContext *ctx, Datatree *node, Datatree *out, RowList rows, Flags raises, At at = here());
+                         const At &at = here());
+uint32_t state_flag_leaf(MapContext *ctx, Datatree *node, Datatree *out, RowList rows, Flags raises,
+                         const At &at = here());
 
 // A boolean whose native leaf is empty: present for `set_word` ("true", or "false" where the native leaf says the
 // opposite). The other word removes it, but adds nothing where a replace has removed it already; any other value is
 // refused.
 uint32_t presence_boolean_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &native,
-                               const char *set_word, At at = here());
+                               const char *set_word, const At &at = here());
 
 // The default of a list's key: makes the native entry, which takes the operation of the list entry, and its key leaf;
 // leaves both for the handlers below the entry.
 uint32_t key_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &entry, const Native &key,
-                  At at = here());
+                  const At &at = here());
 
 // ---- Containers -----------------------------------------------------------------------------
 
 // With children nothing: they do the mapping. Without, all that the container stands for, with the pair of the branch;
 // only the last outcome counts.
 uint32_t selection(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                   std::initializer_list<Native> natives, At at = here());
+                   std::initializer_list<Native> natives, const At &at = here());
 
 // The same with flags, whether or not there are children and whatever the outcome.
 uint32_t flagging_selection(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                            std::initializer_list<Native> natives, Flags raises, At at = here());
+                            std::initializer_list<Native> natives, Flags raises, const At &at = here());
 
 // The same below `state`: selections whatever the kind.
 uint32_t state_selection(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                         std::initializer_list<Native> natives, At at = here());
+                         std::initializer_list<Native> natives, const At &at = here());
 
 // A selection whose removal is forced, since the native nodes may not exist.
 uint32_t removing_selection(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                            std::initializer_list<Native> natives, At at = here());
+                            std::initializer_list<Native> natives, const At &at = here());
 
 // The same, but each native path is a turn of its own: with its own line in the log, its own test of the kind and its
 // own rewrite.
 uint32_t removing_selection_by_turns(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                                     std::initializer_list<Native> natives, At at = here());
+                                     std::initializer_list<Native> natives, const At &at = here());
 
 // Nothing but the guard.
-uint32_t silent(MapContext *ctx, Datatree *node, Datatree *out, At at = here());
+uint32_t silent(MapContext *ctx, Datatree *node, Datatree *out, const At &at = here());
 
 // For a container with a shape of its own: says "No subtrees" and gives true, or says that its children do the mapping.
-[[nodiscard]] bool maps_itself(MapContext *ctx, int32_t subtree_count, At at);
+[[nodiscard]] bool maps_itself(MapContext *ctx, int32_t subtree_count, const At &at);
 
 // ---- Bodies written by hand -----------------------------------------------------------------
 
 // A default that leaves its node to a body written by hand. The body has the guard again.
-uint32_t forward(MapContext *ctx, Datatree *node, Datatree *out, VmfLeafHandler *body, At at = here());
+uint32_t forward(MapContext *ctx, Datatree *node, Datatree *out, VmfLeafHandler *body, const At &at = here());
 
 uint32_t forward(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out, VmfContainerHandler *body,
-                 At at = here());
+                 const At &at = here());
 
 // Overrides that call such a body: the leaf's raises the flags afterwards, whatever the outcome, the container's
 // before.
 uint32_t flagging_container(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                            VmfContainerHandler *body, Flags raises, At at = here());
+                            VmfContainerHandler *body, Flags raises, const At &at = here());
 uint32_t flagging_leaf(MapContext *ctx, Datatree *node, Datatree *out, VmfLeafHandler *body, Flags raises,
-                       At at = here());
+                       const At &at = here());

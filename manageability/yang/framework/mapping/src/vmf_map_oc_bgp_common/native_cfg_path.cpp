@@ -13,7 +13,7 @@
 extern "C" uint32_t add_zr_cfg_bgp_one_node(MapContext *ctx, Datatree *parent, const char *tag, const char *value,
                                             const Datatree *operation_source, Datatree **result)
 {
-    if (uint32_t bad = enter_service(ctx, {parent, tag})) return bad;
+    if (uint32_t bad = enter_service(ctx, here(), parent, tag)) return bad;
     VMF_TRC(ctx, here(), "Processing '%s'", tag);
     return log_end(ctx,
                    vmf_map_datatree_add_subtree(ctx, parent, tag, ZR_BGP_CFG_NS, value, operation_source, result, 0));
@@ -22,7 +22,7 @@ extern "C" uint32_t add_zr_cfg_bgp_one_node(MapContext *ctx, Datatree *parent, c
 extern "C" uint32_t add_zr_cfg_bgp_path(MapContext *ctx, Datatree *parent, const char *path, const char *value,
                                         const Datatree *operation_source, Datatree **result)
 {
-    if (uint32_t bad = enter_service(ctx, {parent, path})) return bad;
+    if (uint32_t bad = enter_service(ctx, here(), parent, path)) return bad;
     const size_t length = std::strlen(path);
     if (length != 0 && (path[0] == '/' || path[length - 1] == '/')) {
         VMF_ERR(ctx, here(), "The path '%s' cannot start or end with '/'", path);
@@ -110,7 +110,7 @@ static Datatree *last_child(const Datatree *parent, const char *tag)
 }
 
 // What stands under `instance-as` by now. A later `four-byte-as` replaces an earlier one.
-static uint32_t scan_as_levels(MapContext *ctx, const Datatree *instance_as, AsLevels *levels, At at)
+static uint32_t scan_as_levels(MapContext *ctx, const Datatree *instance_as, AsLevels *levels, const At &at)
 {
     const Children children = children_of(instance_as);
     for (int32_t i = 0; i < children.count; i++) {
@@ -126,7 +126,7 @@ static uint32_t scan_as_levels(MapContext *ctx, const Datatree *instance_as, AsL
 }
 
 // The first `instance-as`. A child without a tag ends the search, and the outcome says so.
-static uint32_t find_instance_as(MapContext *ctx, const Datatree *instance, Datatree **instance_as, At at)
+static uint32_t find_instance_as(MapContext *ctx, const Datatree *instance, Datatree **instance_as, const At &at)
 {
     const Children children = children_of(instance);
     for (int32_t i = 0; i < children.count; i++) {
@@ -150,7 +150,7 @@ static uint32_t add_as(MapContext *ctx, Datatree *parent, uint32_t number)
     return add_zr_cfg_bgp_one_node(ctx, parent, "as", text, nullptr, nullptr);
 }
 
-static Datatree *add_four_byte_as(MapContext *ctx, Datatree *instance_as, At at)
+static Datatree *add_four_byte_as(MapContext *ctx, Datatree *instance_as, const At &at)
 {
     VMF_TRC(ctx, at, "'four-byte-as' not found so create it.");
     Datatree *four_byte_as = nullptr;
@@ -161,7 +161,7 @@ static Datatree *add_four_byte_as(MapContext *ctx, Datatree *instance_as, At at)
 
 // The AS is known. None of these adds counts: a path fails only for want of a `four-byte-as`.
 static Datatree *add_known_as(MapContext *ctx, Datatree *instance_as, Datatree *four_byte_as, uint32_t as_high,
-                              uint32_t as_low, At at)
+                              uint32_t as_low, const At &at)
 {
     VMF_TRC(ctx, at, "Now setting the obtained AS number");
     if (add_as(ctx, instance_as, as_high) != VMF_RC_OK) return four_byte_as;
@@ -173,7 +173,7 @@ static Datatree *add_known_as(MapContext *ctx, Datatree *instance_as, Datatree *
 }
 
 // No AS is known. The levels are made all the same, without numbers: the path below them can stand.
-static Datatree *add_unknown_as(MapContext *ctx, Datatree *instance_as, At at)
+static Datatree *add_unknown_as(MapContext *ctx, Datatree *instance_as, const At &at)
 {
     if (add_zr_cfg_bgp_one_node(ctx, instance_as, "as", nullptr, nullptr, nullptr) != VMF_RC_OK) return nullptr;
     Datatree *four_byte_as = add_four_byte_as(ctx, instance_as, at);
@@ -184,7 +184,7 @@ static Datatree *add_unknown_as(MapContext *ctx, Datatree *instance_as, At at)
 }
 
 // Finds or makes the levels from `bgp` to `four-byte-as`. An outcome of 0 may come with no `four-byte-as`.
-static uint32_t common_path(MapContext *ctx, Datatree *out, Datatree **four_byte_as, At at)
+static uint32_t common_path(MapContext *ctx, Datatree *out, Datatree **four_byte_as, const At &at)
 {
     Datatree *instance = nullptr;
     if (uint32_t bad = add_instance(ctx, out, &instance)) return bad;
@@ -229,7 +229,7 @@ extern "C" uint32_t vmf_map_zr_bgp_cfg_add_path(MapContext *ctx, Datatree *tree,
                                                 const char *value, const Datatree *operation_source, Datatree **result,
                                                 uint32_t repeat)
 {
-    if (uint32_t bad = enter_service(ctx, {tree, path, ns})) return bad;
+    if (uint32_t bad = enter_service(ctx, here(), tree, path, ns)) return bad;
     const PathAdd given = {path, ns, value, operation_source, result, repeat};
     if (path[0] != '/') return log_end(ctx, add_relative(ctx, tree, given, here()));
     if (const Reserved reserved = reserved_path(path); reserved != Reserved::none)

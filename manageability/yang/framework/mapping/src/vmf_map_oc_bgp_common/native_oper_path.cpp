@@ -11,13 +11,13 @@
 extern "C" uint32_t add_zr_opr_bgp_one_node(MapContext *ctx, Datatree *parent, const char *tag, const char *value,
                                             const Datatree *operation_source, Datatree **result)
 {
-    if (uint32_t bad = enter_service(ctx, {parent, tag})) return bad;
+    if (uint32_t bad = enter_service(ctx, here(), parent, tag)) return bad;
     VMF_TRC(ctx, here(), "Processing '%s'", tag);
     return log_end(ctx,
                    vmf_map_datatree_add_subtree(ctx, parent, tag, ZR_BGP_OPER_NS, value, operation_source, result, 0));
 }
 
-static uint32_t add_oper_instance(MapContext *ctx, Datatree *out, Datatree **instance, At at)
+static uint32_t add_oper_instance(MapContext *ctx, Datatree *out, Datatree **instance, const At &at)
 {
     Datatree *bgp = nullptr;
     Datatree *instances = nullptr;
@@ -37,7 +37,7 @@ extern "C" uint32_t vmf_map_zr_bgp_opr_add_path(MapContext *ctx, Datatree *tree,
                                                 const char *value, const Datatree *operation_source, Datatree **result,
                                                 uint32_t repeat)
 {
-    if (uint32_t bad = enter_service(ctx, {tree, path, ns})) return bad;
+    if (uint32_t bad = enter_service(ctx, here(), tree, path, ns)) return bad;
     const PathAdd given = {path, ns, value, operation_source, result, repeat};
     if (path[0] != '/') return log_end(ctx, add_relative(ctx, tree, given, here()));
 
@@ -74,6 +74,6 @@ extern "C" uint32_t vmf_map_datatree_add_bgp_path(MapContext *ctx, Datatree *tre
                                                   const char *value, const Datatree *operation_source,
                                                   Datatree **result, uint32_t repeat)
 {
-    if (uint32_t bad = enter_service(ctx, {tree, path, ns})) return bad;
+    if (uint32_t bad = enter_service(ctx, here(), tree, path, ns)) return bad;
     return log_end(ctx, add_by_namespace(ctx, tree, path, ns, value, operation_source, result, repeat));
 }

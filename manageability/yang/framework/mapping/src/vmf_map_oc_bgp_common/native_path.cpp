@@ -6,7 +6,7 @@ uint32_t add_below(MapContext *ctx, Datatree *parent, const char *path, const Pa
                                             given.result, given.repeat);
 }
 
-uint32_t add_relative(MapContext *ctx, Datatree *parent, const PathAdd &given, At at)
+uint32_t add_relative(MapContext *ctx, Datatree *parent, const PathAdd &given, const At &at)
 {
     VMF_TRC(ctx, at, "Setting a relative path '%s' with '%s'", given.path, shown(given.value));
     return add_below(ctx, parent, given.path, given);

@@ -19,4 +19,4 @@ struct PathAdd {
 [[nodiscard]] uint32_t add_below(MapContext *ctx, Datatree *parent, const char *path, const PathAdd &given);
 
 // A relative path hangs from an entry that stands already: no level above it is supplied.
-[[nodiscard]] uint32_t add_relative(MapContext *ctx, Datatree *parent, const PathAdd &given, At at);
+[[nodiscard]] uint32_t add_relative(MapContext *ctx, Datatree *parent, const PathAdd &given, const At &at);

@@ -15,7 +15,7 @@ struct Unpacking {
     void *context;
 };
 
-static uint32_t unpack(MapContext *ctx, const Query *query, Unpacking *unpacking, char **value, At at)
+static uint32_t unpack(MapContext *ctx, const Query *query, Unpacking *unpacking, char **value, const At &at)
 {
     unpacking->result_set = kos_named_calloc_(1, 32, "Sysdb backend result set", 0);
     if (unpacking->result_set == nullptr) {
@@ -42,7 +42,7 @@ static uint32_t unpack(MapContext *ctx, const Query *query, Unpacking *unpacking
     return VMF_RC_OK;
 }
 
-static uint32_t read_limit(MapContext *ctx, const Query *query, char **value, At at)
+static uint32_t read_limit(MapContext *ctx, const Query *query, char **value, const At &at)
 {
     Unpacking unpacking = {};
     const uint32_t outcome = unpack(ctx, query, &unpacking, value, at);
@@ -52,7 +52,7 @@ static uint32_t read_limit(MapContext *ctx, const Query *query, char **value, At
 }
 
 // The first item that is a limit wins.
-static uint32_t first_limit(MapContext *ctx, Query *query, char **value, At at)
+static uint32_t first_limit(MapContext *ctx, Query *query, char **value, const At &at)
 {
     for (;;) {
         if (uint32_t bad = next_result(ctx, query, at)) return bad;
@@ -64,7 +64,7 @@ static uint32_t first_limit(MapContext *ctx, Query *query, char **value, At at)
     }
 }
 
-static uint32_t find_limit(MapContext *ctx, Query *query, const char *path, char **value, At at)
+static uint32_t find_limit(MapContext *ctx, Query *query, const char *path, char **value, const At &at)
 {
     if (uint32_t bad = get_backend_session(ctx->req_ctx, &query->session, ctx)) {
         VMF_ERR(ctx, at, "Failed to get backend session context: %s!", cerr_strerror(bad));
@@ -88,7 +88,7 @@ extern "C" uint32_t get_zr_cfg_bgp_prefix_limit_from_sysdb(MapContext *ctx, cons
     return log_end(ctx, outcome);
 }
 
-static uint32_t add_limit(MapContext *ctx, const char *value, const char *ns, At at)
+static uint32_t add_limit(MapContext *ctx, const char *value, const char *ns, const At &at)
 {
     if (value == nullptr) return VMF_RC_OK;
     VMF_TRC(ctx, at, "Setting the max-prefix value to %s", value);

@@ -37,7 +37,7 @@ static void write_path(char *path, const Activation &activation, uint32_t as_x, 
 }
 
 // On purpose: not the merged view, and a session that could not be had is passed on as it is.
-static uint32_t is_found(MapContext *ctx, const char *path, const char *af_name, At at)
+static uint32_t is_found(MapContext *ctx, const char *path, const char *af_name, const At &at)
 {
     SysdbBackendSession *session = nullptr;
     if (get_backend_session(ctx->req_ctx, &session, ctx) != VMF_RC_OK)
@@ -56,7 +56,7 @@ static uint32_t is_found(MapContext *ctx, const char *path, const char *af_name,
 }
 
 static uint32_t check_path(MapContext *ctx, char *path, const Activation &activation, const char *af_name,
-                           uint32_t as_x, uint32_t as_y, At at)
+                           uint32_t as_x, uint32_t as_y, const At &at)
 {
     const char *code = vmf_map_get_af_value(af_name);
     if (code == nullptr) {
@@ -69,7 +69,7 @@ static uint32_t check_path(MapContext *ctx, char *path, const Activation &activa
     return is_found(ctx, path, af_name, at);
 }
 
-static uint32_t check(MapContext *ctx, const Activation &activation, const char *af_name, At at)
+static uint32_t check(MapContext *ctx, const Activation &activation, const char *af_name, const At &at)
 {
     if (af_name == nullptr) {
         VMF_ERR(ctx, at, "NULL argument(s) passed!");

@@ -5,14 +5,14 @@
 #include "vmf_map_trace.h"
 
 // Neither "Start" nor "End" here.
-static void assert_context(MapContext *ctx, At at = here())
+static void assert_context(MapContext *ctx, const At &at = here())
 {
     if (ctx == nullptr) assertion_failed(at, "NULL != ctx");
     if (lies_at_null(&ctx->_debug_ctx)) assertion_failed(at, "NULL != (&((ctx)->_debug_ctx))");
 }
 
 // What the walk made: the OpenConfig root is the first child of the holder. Null if it made nothing.
-static Datatree *root_of(MapContext *ctx, const Datatree *mapped, At at)
+static Datatree *root_of(MapContext *ctx, const Datatree *mapped, const At &at)
 {
     if (!has_subtrees(mapped)) {
         VMF_TRC(ctx, at, "No mapped output");
@@ -23,7 +23,7 @@ static Datatree *root_of(MapContext *ctx, const Datatree *mapped, At at)
     return root;
 }
 
-static uint32_t report_walk(MapContext *ctx, uint32_t outcome, At at)
+static uint32_t report_walk(MapContext *ctx, uint32_t outcome, const At &at)
 {
     VMF_ERR(ctx, at, "Failed to map ZR model to open config model! (rc = %s)", cerr_strerror(outcome));
     return outcome;
@@ -58,14 +58,14 @@ static void copy_tree(Datatree *to, const Datatree *from)
 
 enum class Model : uint8_t { configuration, operational };
 
-static uint32_t refuse_response(MapContext *ctx, At at)
+static uint32_t refuse_response(MapContext *ctx, const At &at)
 {
     VMF_ERR(ctx, at, "Invalid response data. Corrupted?");
     return VMF_RC_BAD_TREE;
 }
 
 // One tree is left in the response: the framework passes it over.
-static uint32_t skip_only_tree(MapContext *ctx, Model model, int32_t *skip_subtree, At at)
+static uint32_t skip_only_tree(MapContext *ctx, Model model, int32_t *skip_subtree, const At &at)
 {
     if (model == Model::configuration)
         VMF_TRC(ctx, at, "One subtree. Only BGP config tree.");
@@ -77,7 +77,7 @@ static uint32_t skip_only_tree(MapContext *ctx, Model model, int32_t *skip_subtr
     return VMF_RC_OK;
 }
 
-static uint32_t report_no_memory(MapContext *ctx, Model model, uint32_t count, At at)
+static uint32_t report_no_memory(MapContext *ctx, Model model, uint32_t count, const At &at)
 {
     if (model == Model::configuration)
         VMF_ERR(ctx, at, "Failed to allocate memory!");
@@ -88,7 +88,7 @@ static uint32_t report_no_memory(MapContext *ctx, Model model, uint32_t count, A
 
 // The children are shared with the old array until the framework lets it go.
 static void keep_other_trees(MapContext *ctx, Model model, const char *ns, Datatree *old_trees, int32_t old_count,
-                             Datatree *trees, At at)
+                             Datatree *trees, const At &at)
 {
     int32_t kept = 0;
     for (int32_t i = 0; i < old_count; i++) {
@@ -104,7 +104,7 @@ static void keep_other_trees(MapContext *ctx, Model model, const char *ns, Datat
 }
 
 static uint32_t remove_native_tree(MapContext *ctx, Datatree *response, Model model, const char *ns,
-                                   int32_t *skip_subtree, At at)
+                                   int32_t *skip_subtree, const At &at)
 {
     if (response == nullptr || children_of(response).count == 0 || response->subtrees == nullptr)
         return refuse_response(ctx, at);
@@ -124,7 +124,7 @@ static uint32_t remove_native_tree(MapContext *ctx, Datatree *response, Model mo
 
 // ---- The configuration entry ----------------------------------------------------------------
 
-static void keep_mapped(MapContext *ctx, Datatree *mapped, At at)
+static void keep_mapped(MapContext *ctx, Datatree *mapped, const At &at)
 {
     VMF_TRC(ctx, at, "This is get request. Keep the mapped tree.");
     ctx->request->kept_mapped_tree = mapped;

@@ -21,32 +21,33 @@ uint32_t write_copies(MapContext *ctx, Datatree *mapped, const Copies &copies, c
 
 // ---- Forms ----------------------------------------------------------------------------------
 
-uint32_t copy_value(MapContext *ctx, Datatree *node, Datatree *mapped, const Copies &copies, At at)
+uint32_t copy_value(MapContext *ctx, Datatree *node, Datatree *mapped, const Copies &copies, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     return log_end(ctx, write_copies(ctx, mapped, copies, value_of(node)), at);
 }
 
-uint32_t copy_constant(MapContext *ctx, Datatree *node, Datatree *mapped, const Copies &copies, const char *text, At at)
+uint32_t copy_constant(MapContext *ctx, Datatree *node, Datatree *mapped, const Copies &copies, const char *text,
+                       const At &at)
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     return log_end(ctx, write_copies(ctx, mapped, copies, text), at);
 }
 
-uint32_t whole_path(MapContext *ctx, Datatree *node, Datatree *mapped, const Native &place, At at)
+uint32_t whole_path(MapContext *ctx, Datatree *node, Datatree *mapped, const Native &place, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     return log_end(ctx, write_text(ctx, mapped, place, value_of(node)), at);
 }
 
-uint32_t open_path(MapContext *ctx, Datatree *node, Datatree *mapped, const Native &place, At at)
+uint32_t open_path(MapContext *ctx, Datatree *node, Datatree *mapped, const Native &place, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     return log_end(ctx, write_text(ctx, mapped, place, nullptr), at);
 }
 
 uint32_t entry_key(MapContext *ctx, Datatree *node, Datatree *mapped, Datatree *Ctx::*held, const Native &entry,
-                   const Native &key, At at)
+                   const Native &key, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     Datatree *added = nullptr;
@@ -56,7 +57,7 @@ uint32_t entry_key(MapContext *ctx, Datatree *node, Datatree *mapped, Datatree *
 }
 
 uint32_t empty_container(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *mapped, const Native &place,
-                         At at)
+                         const At &at)
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     if (!maps_itself(ctx, subtree_count, at)) return log_end(ctx, VMF_RC_OK, at);
@@ -91,7 +92,7 @@ static uint32_t write_switch(MapContext *ctx, Datatree *mapped, const Copies &en
 }
 
 uint32_t family_switch(MapContext *ctx, Datatree *node, Datatree *mapped, const Copies &enabled, const Copies &name,
-                       const char *Ctx::*native_name, At at)
+                       const char *Ctx::*native_name, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     return log_end(ctx, write_switch(ctx, mapped, enabled, name, ctx->*native_name), at);
@@ -99,7 +100,7 @@ uint32_t family_switch(MapContext *ctx, Datatree *node, Datatree *mapped, const 
 
 // ---- AS numbers -----------------------------------------------------------------------------
 
-uint32_t keep_as_high(MapContext *ctx, Datatree *node, Datatree *mapped, At at)
+uint32_t keep_as_high(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     if (has_value(node)) ctx->remote_as_high = node->value;

@@ -46,26 +46,26 @@ bool wants_state(const MapContext *ctx);
 // ---- Forms ----------------------------------------------------------------------------------
 
 // Both copies of the node's value, or of a constant that the node's presence stands for.
-uint32_t copy_value(MapContext *ctx, Datatree *node, Datatree *mapped, const Copies &copies, At at = here());
+uint32_t copy_value(MapContext *ctx, Datatree *node, Datatree *mapped, const Copies &copies, const At &at = here());
 uint32_t copy_constant(MapContext *ctx, Datatree *node, Datatree *mapped, const Copies &copies, const char *text,
-                       At at = here());
+                       const At &at = here());
 
 // The node's value at one path; the path without a value.
-uint32_t whole_path(MapContext *ctx, Datatree *node, Datatree *mapped, const Native &place, At at = here());
-uint32_t open_path(MapContext *ctx, Datatree *node, Datatree *mapped, const Native &place, At at = here());
+uint32_t whole_path(MapContext *ctx, Datatree *node, Datatree *mapped, const Native &place, const At &at = here());
+uint32_t open_path(MapContext *ctx, Datatree *node, Datatree *mapped, const Native &place, const At &at = here());
 
 // The key of a list: a new OpenConfig entry, left in `held` for the nodes below, and its key leaf.
 uint32_t entry_key(MapContext *ctx, Datatree *node, Datatree *mapped, Datatree *Ctx::*held, const Native &entry,
-                   const Native &key, At at = here());
+                   const Native &key, const At &at = here());
 
 // A container that is empty in the native tree is empty in the answer.
 uint32_t empty_container(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *mapped, const Native &place,
-                         At at = here());
+                         const At &at = here());
 
 // A family that is on: its switch, and its name where that was asked for below `config` or `state`. The name stands
 // there as the native word.
 uint32_t family_switch(MapContext *ctx, Datatree *node, Datatree *mapped, const Copies &enabled, const Copies &name,
-                       const char *Ctx::*native_name, At at = here());
+                       const char *Ctx::*native_name, const At &at = here());
 
 // Adds the name of a family, with the module that it is an identity of: below `place`, at a path that begins with the
 // entry's own tag.
@@ -75,7 +75,7 @@ uint32_t family_switch(MapContext *ctx, Datatree *node, Datatree *mapped, const 
 // ---- AS numbers -----------------------------------------------------------------------------
 
 // The high half of an AS number, kept for its low half.
-uint32_t keep_as_high(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here());
+uint32_t keep_as_high(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here());
 
 // The decimal text of a whole AS number.
 struct AsText {

@@ -3,7 +3,7 @@
 #include "frame.h"
 #include "node.h"
 
-static uint32_t refuse_corrupt(MapContext *ctx, At at)
+static uint32_t refuse_corrupt(MapContext *ctx, const At &at)
 {
     VMF_ERR(ctx, at, "Failed to get subtrees!");
     return VMF_RC_BAD_TREE;
@@ -33,7 +33,7 @@ static bool is_default_instance(const Datatree *name)
     return name->value != nullptr && vmf_map_do_these_match(name->value, "default") != 0;
 }
 
-static void say_family_is_left(MapContext *ctx, FamilyLine line, At at)
+static void say_family_is_left(MapContext *ctx, FamilyLine line, const At &at)
 {
     if (line == FamilyLine::names_it)
         VMF_TRC(ctx, at, "Unsupported af-name %s. Skipping it.", shown(ctx->af_name));
@@ -42,7 +42,7 @@ static void say_family_is_left(MapContext *ctx, FamilyLine line, At at)
 }
 
 static Step step_into(MapContext *ctx, Datatree *child, Datatree *mapped, const ResponseChild &known, FamilyLine line,
-                      At at)
+                      const At &at)
 {
     if (known.role == Role::instance_name && !is_default_instance(child)) {
         VMF_TRC(ctx, at, "Ignoring non-default instance.");
@@ -58,7 +58,8 @@ static Step step_into(MapContext *ctx, Datatree *child, Datatree *mapped, const 
 }
 
 static uint32_t walk_children(MapContext *ctx, Children children, Datatree *mapped,
-                              std::span<const ResponseChild> known, const ResponseRules &rules, FamilyLine line, At at)
+                              std::span<const ResponseChild> known, const ResponseRules &rules, FamilyLine line,
+                              const At &at)
 {
     for (int32_t i = 0; i < children.count; i++) {
         Datatree *child = &children.first[i];
@@ -82,7 +83,7 @@ static uint32_t walk_children(MapContext *ctx, Children children, Datatree *mapp
 // ---- Containers and lists -------------------------------------------------------------------
 
 static uint32_t map_container(MapContext *ctx, Datatree *tree, Datatree *mapped, const ResponseContainer &rule,
-                              const ResponseRules &rules, At at)
+                              const ResponseRules &rules, const At &at)
 {
     if (is_corrupt(tree)) return refuse_corrupt(ctx, at);
     const Children children = children_of(tree);  // none: the handler may write an empty container
@@ -91,13 +92,14 @@ static uint32_t map_container(MapContext *ctx, Datatree *tree, Datatree *mapped,
 }
 
 uint32_t walk_response_container(MapContext *ctx, Datatree *tree, Datatree *mapped, const ResponseContainer &rule,
-                                 const ResponseRules &rules, At at)
+                                 const ResponseRules &rules, const At &at)
 {
     if (uint32_t bad = enter(ctx, tree, mapped, at)) return bad;
     return log_end(ctx, map_container(ctx, tree, mapped, rule, rules, at), at);
 }
 
-static uint32_t meet_childless_entry(MapContext *ctx, const ResponseList &rule, const ResponseRules &rules, At at)
+static uint32_t meet_childless_entry(MapContext *ctx, const ResponseList &rule, const ResponseRules &rules,
+                                     const At &at)
 {
     if (!rules.refuses_childless_entries || rule.childless == Childless::passes) return VMF_RC_OK;
     VMF_ERR(ctx, at, "No keys specified with a list node.");
@@ -106,7 +108,7 @@ static uint32_t meet_childless_entry(MapContext *ctx, const ResponseList &rule, 
 }
 
 static uint32_t map_entry(MapContext *ctx, Datatree *tree, Datatree *mapped, const ResponseList &rule,
-                          const ResponseRules &rules, At at)
+                          const ResponseRules &rules, const At &at)
 {
     if (is_corrupt(tree)) return refuse_corrupt(ctx, at);
     const Children children = children_of(tree);
@@ -117,7 +119,7 @@ static uint32_t map_entry(MapContext *ctx, Datatree *tree, Datatree *mapped, con
 }
 
 uint32_t walk_response_list(MapContext *ctx, Datatree *tree, Datatree *mapped, const ResponseList &rule,
-                            const ResponseRules &rules, At at)
+                            const ResponseRules &rules, const At &at)
 {
     if (uint32_t bad = enter(ctx, tree, mapped, at)) return bad;
     return log_end(ctx, map_entry(ctx, tree, mapped, rule, rules, at), at);

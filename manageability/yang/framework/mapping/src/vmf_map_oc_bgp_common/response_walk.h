@@ -43,6 +43,6 @@ struct ResponseRules {
 };
 
 uint32_t walk_response_container(MapContext *ctx, Datatree *tree, Datatree *mapped, const ResponseContainer &rule,
-                                 const ResponseRules &rules, At at = here());
+                                 const ResponseRules &rules, const At &at = here());
 uint32_t walk_response_list(MapContext *ctx, Datatree *tree, Datatree *mapped, const ResponseList &rule,
-                            const ResponseRules &rules, At at = here());
+                            const ResponseRules &rules, const At &at = here());

@@ -14,7 +14,7 @@
 #define SESSION_TRC(vmf_ctx, ...)                                                                                      \
     VMF_STATEMENT_(vmf_ctx, &(vmf_ctx)->_debug_ctx, here(), 3, "TRC", trc_filter, __VA_ARGS__)
 
-static uint32_t exiting(const VmfContext *vmf_ctx, uint32_t outcome, At at)
+static uint32_t exiting(const VmfContext *vmf_ctx, uint32_t outcome, const At &at)
 {
     VMF_STATEMENT_(vmf_ctx, &vmf_ctx->_debug_ctx, at, 3, "TRC", trc_filter, "Exiting %s", at.function);
     return outcome;
@@ -73,7 +73,7 @@ static bool read_as(const Query *query, uint32_t *as_x, uint32_t *as_y)
 }
 
 // The first location that parses wins; one that does not is passed over.
-static uint32_t first_as(MapContext *ctx, Query *query, uint32_t *as_x, uint32_t *as_y, At at)
+static uint32_t first_as(MapContext *ctx, Query *query, uint32_t *as_x, uint32_t *as_y, const At &at)
 {
     for (;;) {
         if (uint32_t bad = next_result(ctx, query, at)) return bad;
@@ -84,7 +84,7 @@ static uint32_t first_as(MapContext *ctx, Query *query, uint32_t *as_x, uint32_t
     }
 }
 
-static uint32_t find_as(MapContext *ctx, Query *query, uint32_t *as_x, uint32_t *as_y, At at)
+static uint32_t find_as(MapContext *ctx, Query *query, uint32_t *as_x, uint32_t *as_y, const At &at)
 {
     if (query->session == nullptr || as_x == nullptr || as_y == nullptr) {
         VMF_ERR(ctx, at, "NULL argument(s) passed!");

@@ -4,15 +4,15 @@
 
 #include "frame.h"
 
-void log_start(MapContext *ctx, At at)
+void speak_start(MapContext *ctx, const At &at, uint32_t log_is_on)
 {
-    if (ctx == nullptr) assertion_failed(at, "NULL != ctx");
-    const uint32_t log_is_on = vmf_debug_should_log(&ctx->_debug_ctx, 3);
-    if (lies_at_null(&ctx->_debug_ctx)) assertion_failed(at, "NULL != (&((ctx)->_debug_ctx))");
     VMF_SPEAK_(ctx, &ctx->_debug_ctx, at, log_is_on, "TRC", trc_filter, "Start");
 }
 
-void say_end(MapContext *ctx, At at) { VMF_TRC(ctx, at, "End"); }
+void speak_end(MapContext *ctx, const At &at, uint32_t log_is_on)
+{
+    VMF_SPEAK_(ctx, &ctx->_debug_ctx, at, log_is_on, "TRC", trc_filter, "End");
+}
 
 void trace_line(const VmfDebugContext *debug, const char *format, ...)
 {
@@ -26,7 +26,7 @@ void trace_line(const VmfDebugContext *debug, const char *format, ...)
 
 // The fault at address 1 tells a core dump apart from any other abort. Nobody unlocks stderr again: no other thread
 // shall write between the line and the end of the process.
-__attribute__((no_sanitize("address", "undefined"))) void assertion_failed(At at, const char *expression)
+__attribute__((no_sanitize("address", "undefined"))) void assertion_failed(const At &at, const char *expression)
 {
     flockfile(stderr);
     std::fprintf(stderr, "%s: %d %s -- assertion failed\n", at.file, at.line, expression);
@@ -37,21 +37,14 @@ __attribute__((no_sanitize("address", "undefined"))) void assertion_failed(At at
     std::abort();
 }
 
-uint32_t enter(MapContext *ctx, const Datatree *node, const Datatree *out, At at)
+uint32_t refuse_arguments(MapContext *ctx, const At &at)
 {
-    log_start(ctx, at);
-    if (node != nullptr && out != nullptr) return VMF_RC_OK;
     VMF_ERR(ctx, at, "Invalid arguments passed!");
     return VMF_RC_BAD_ARGS;
 }
 
-uint32_t enter_service(MapContext *ctx, std::initializer_list<const void *> required, At at)
+uint32_t refuse_null_arguments(MapContext *ctx, const At &at)
 {
-    log_start(ctx, at);
-    for (const void *argument : required) {
-        if (argument != nullptr) continue;
-        VMF_ERR(ctx, at, "NULL argument(s) passed!");
-        return VMF_RC_BAD_ARGS;
-    }
-    return VMF_RC_OK;
+    VMF_ERR(ctx, at, "NULL argument(s) passed!");
+    return VMF_RC_BAD_ARGS;
 }

@@ -132,12 +132,12 @@ static uint32_t select_as(MapContext *ctx, Datatree *out)
     return add(ctx, out, cfg(ZR_BGP_FOUR_BYTE_AS "/bgp-running"), selection_only);
 }
 
-static void say_all_goes(MapContext *ctx, At at)
+static void say_all_goes(MapContext *ctx, const At &at)
 {
     VMF_TRC(ctx, at, "Deleting AS. This will be deleting entire BGP config.");
 }
 
-static uint32_t remove_as(MapContext *ctx, Datatree *node, Datatree *out, At at)
+static uint32_t remove_as(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     const uint32_t outcome = add(ctx, out, cfg(ZR_BGP_INSTANCE), from_node(node));
     ctx->as_written = 1;
@@ -154,7 +154,7 @@ static uint32_t write_as(MapContext *ctx, Datatree *node, Datatree *out)
     return add(ctx, out, cfg(ZR_BGP_FOUR_BYTE_AS "/bgp-running"), from_node(node));
 }
 
-static uint32_t map_as(MapContext *ctx, Datatree *node, Datatree *out, At at)
+static uint32_t map_as(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     switch (branch_of(ctx, node)) {
     case Branch::read: return select_as(ctx, out);
@@ -223,7 +223,7 @@ static uint32_t select_sums(MapContext *ctx, Datatree *out, const char *leaf)
 }
 
 static uint32_t sum_leaf(MapContext *ctx, Datatree *node, Datatree *out, uint32_t Req::*wanted, const char *leaf,
-                         At at = here())
+                         const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     if (!is_read(ctx)) return log_end(ctx, VMF_RC_OK, at);

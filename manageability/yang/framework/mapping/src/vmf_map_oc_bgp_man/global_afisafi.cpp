@@ -53,7 +53,7 @@ OC_CONT(_global_afisafis)
 static bool has_global_settings(uint32_t row) { return row == 0 || row == 1 || row == 10 || row == 11; }
 
 // Makes the native entry. A failing add is not reported: the steps behind it go on with the entry before.
-static uint32_t enter_family(MapContext *ctx, Datatree *node, Datatree *out, At at)
+static uint32_t enter_family(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     Datatree *entry = nullptr;
     if (add(ctx, out, family, selection_only, &entry) != VMF_RC_OK) return VMF_RC_OK;
@@ -65,7 +65,7 @@ static uint32_t enter_family(MapContext *ctx, Datatree *node, Datatree *out, At 
 
 // Puts the native word in the place of the identity, in the request itself. A word that is native already comes back as
 // the identity, which may be too long for its place.
-static uint32_t convert_name(MapContext *ctx, Datatree *node, At at)
+static uint32_t convert_name(MapContext *ctx, Datatree *node, const At &at)
 {
     char *name = has_value(node) ? node->value : nullptr;
     uint32_t row = UINT32_MAX;
@@ -136,7 +136,7 @@ OC_CONT(_global_afisafis_afisafi_config)
     return log_end(ctx, outcome);
 }
 
-static uint32_t repeat_name(MapContext *ctx, Datatree *node, Datatree *out, At at)
+static uint32_t repeat_name(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     if (uint32_t bad = check_identity(ctx, node, at)) return bad;
     return repeat_key(ctx, node, out, &Ctx::list_node, {list("af-name"), list("enable")},
@@ -264,7 +264,7 @@ static bool may_have_multipath(const MapContext *ctx)
            });
 }
 
-static uint32_t refuse_family(MapContext *ctx, At at)
+static uint32_t refuse_family(MapContext *ctx, const At &at)
 {
     VMF_ERR(ctx, at, "Operation not allowed for AF '%s'", shown(ctx->af_key));
     return VMF_RC_UNSUPPORTED;

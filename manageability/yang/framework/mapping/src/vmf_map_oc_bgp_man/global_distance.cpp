@@ -36,7 +36,7 @@ static const char *native_distance(const char *tag)
     return nullptr;
 }
 
-static uint32_t check_children(MapContext *ctx, Children children, At at)
+static uint32_t check_children(MapContext *ctx, Children children, const At &at)
 {
     for (int32_t i = 0; i < children.count; i++) {
         const char *tag = tag_of(&children.first[i]);

@@ -47,7 +47,7 @@ static uint32_t remove_paths(MapContext *ctx, Datatree *node, Datatree *out, std
 }
 
 static uint32_t paths_container(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                                std::initializer_list<const char *> paths, At at = here())
+                                std::initializer_list<const char *> paths, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     if (!maps_itself(ctx, subtree_count, at)) return log_end(ctx, VMF_RC_OK, at);
@@ -60,7 +60,7 @@ static uint32_t paths_container(MapContext *ctx, Datatree *node, int32_t subtree
 }
 
 static uint32_t paths_state_container(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                                      const char *path, At at = here())
+                                      const char *path, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     if (!maps_itself(ctx, subtree_count, at) || !is_read(ctx)) return log_end(ctx, VMF_RC_OK, at);
@@ -124,7 +124,7 @@ static uint32_t write_maximum(MapContext *ctx, Datatree *node, Datatree *out, co
     return last;
 }
 
-static uint32_t maximum_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Paths &paths, At at = here())
+static uint32_t maximum_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Paths &paths, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     switch (branch_of(ctx, node)) {
@@ -135,7 +135,8 @@ static uint32_t maximum_leaf(MapContext *ctx, Datatree *node, Datatree *out, con
     return log_end(ctx, VMF_RC_OK, at);
 }
 
-static uint32_t maximum_state_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Paths &paths, At at = here())
+static uint32_t maximum_state_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Paths &paths,
+                                   const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     return log_end(ctx, is_read(ctx) ? read_paths(ctx, out, {paths.value}) : uint32_t{VMF_RC_OK}, at);

@@ -67,7 +67,7 @@ OC_CONT(_neighbors)
 
 // ---- The key --------------------------------------------------------------------------------
 
-static uint32_t select_operational_entry(MapContext *ctx, Datatree *node, Datatree *out, At at)
+static uint32_t select_operational_entry(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     Datatree *added = nullptr;
     if (uint32_t bad = add(ctx, out, repeated(oper_entry), selection_only, &added)) return bad;
@@ -80,7 +80,7 @@ static uint32_t select_operational_entry(MapContext *ctx, Datatree *node, Datatr
     return select_all_operational(ctx, node, out);
 }
 
-static uint32_t name_neighbor(MapContext *ctx, Datatree *node, Datatree *out, At at)
+static uint32_t name_neighbor(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     if (!is_read(ctx)) return add(ctx, out, list("neighbor-address"), with_value(node));
     if (uint32_t bad = add(ctx, out, list("neighbor-address"), {value_of(node), nullptr})) return bad;
@@ -216,7 +216,7 @@ static uint32_t select_messages(MapContext *ctx, Datatree *out, const char *upda
 }
 
 static uint32_t messages(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out, const char *updates,
-                         const char *notifications, At at = here())
+                         const char *notifications, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     if (!maps_itself(ctx, subtree_count, at)) return log_end(ctx, VMF_RC_OK, at);
@@ -237,7 +237,7 @@ NEIGHBOR_CONT(state_messages_received)
 
 // Both kinds of counters of a neighbor.
 static uint32_t counters(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out, RowList rows,
-                         At at = here())
+                         const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     uint32_t outcome = VMF_RC_OK;
@@ -302,7 +302,7 @@ static uint32_t select_all_endpoints(MapContext *ctx, Datatree *node, Datatree *
     return select_endpoints(ctx, node, out);
 }
 
-static uint32_t map_all_transport(MapContext *ctx, Datatree *node, Datatree *out, At at)
+static uint32_t map_all_transport(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     if (uint32_t bad = map_transport(ctx, node, out, neighbor, at)) return bad;
     return is_get(ctx) ? select_all_endpoints(ctx, node, out) : uint32_t{VMF_RC_OK};
@@ -336,7 +336,7 @@ NEIGHBOR_CONT(transport_state)
 }
 
 // A selection that tells the framework of operational data, if it could be made.
-static uint32_t live_leaf(MapContext *ctx, Datatree *node, Datatree *out, RowList rows, At at = here())
+static uint32_t live_leaf(MapContext *ctx, Datatree *node, Datatree *out, RowList rows, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     const uint32_t outcome = select_rows(ctx, out, rows);
@@ -418,7 +418,8 @@ NEIGHBOR_CONT(gracefulrestart_state)
 }
 
 // A request that names a `config` gets no state that mirrors it, so nothing is asked for.
-static uint32_t mirrored_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &native, At at = here())
+static uint32_t mirrored_leaf(MapContext *ctx, Datatree *node, Datatree *out, const Native &native,
+                              const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     uint32_t outcome = VMF_RC_OK;

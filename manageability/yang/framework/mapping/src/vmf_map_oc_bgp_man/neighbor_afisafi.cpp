@@ -58,7 +58,7 @@ static const char *operational_word(const char *identity)
     return nullptr;
 }
 
-static uint32_t select_operational_family(MapContext *ctx, Datatree *node, Datatree *out, At at)
+static uint32_t select_operational_family(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     const char *word = operational_word(value_of(node));
     if (word == nullptr) {
@@ -78,7 +78,7 @@ static uint32_t select_operational_family(MapContext *ctx, Datatree *node, Datat
     return outcome;
 }
 
-static uint32_t map_key(MapContext *ctx, Datatree *node, Datatree *out, At at)
+static uint32_t map_key(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     const char *native = nullptr;
     if (uint32_t bad = enter_family(ctx, node, out, neighbor, match, &Req::nbr_af_bitmap, &native, at)) return bad;
@@ -234,7 +234,7 @@ NEIGHBOR_FAMILY_CONT(ipv4unicast)
 }
 
 static uint32_t family_container(MapContext *ctx, Datatree *node, Datatree *out, const FamilyContainer &container,
-                                 At at = here())
+                                 const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     uint32_t outcome = check_family(ctx, container, at);

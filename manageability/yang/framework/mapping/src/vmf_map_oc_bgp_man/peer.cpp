@@ -27,14 +27,14 @@ uint32_t map_timers(MapContext *ctx, Datatree *node, Datatree *out)
     return add(ctx, out, list("timers"), selection_only);
 }
 
-uint32_t timers_config(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out, At at)
+uint32_t timers_config(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     if (!maps_itself(ctx, subtree_count, at)) return log_end(ctx, VMF_RC_OK, at);
     return log_end(ctx, map_timers(ctx, node, out), at);
 }
 
-uint32_t minimum_advertisement_interval(MapContext *ctx, Datatree *node, Datatree *out, At at)
+uint32_t minimum_advertisement_interval(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     constexpr Native interval = list("advertisement-interval/minimum-interval");
     return branching_leaf(
@@ -45,7 +45,7 @@ uint32_t minimum_advertisement_interval(MapContext *ctx, Datatree *node, Datatre
 
 static constexpr Native update_source = direct(list("update-source-interface"));
 
-uint32_t map_transport(MapContext *ctx, Datatree *node, Datatree *out, const Peer &peer, At at)
+uint32_t map_transport(MapContext *ctx, Datatree *node, Datatree *out, const Peer &peer, const At &at)
 {
     switch (branch_of(ctx, node)) {
     case Branch::read:
@@ -60,14 +60,14 @@ uint32_t map_transport(MapContext *ctx, Datatree *node, Datatree *out, const Pee
 }
 
 uint32_t transport_config(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out, const Peer &peer,
-                          At at)
+                          const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     if (!maps_itself(ctx, subtree_count, at)) return log_end(ctx, VMF_RC_OK, at);
     return log_end(ctx, map_transport(ctx, node, out, peer, at), at);
 }
 
-static uint32_t write_passive_mode(MapContext *ctx, Datatree *node, Datatree *out, At at)
+static uint32_t write_passive_mode(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     const char *value = value_of(node);
     const char *mode = nullptr;
@@ -80,7 +80,7 @@ static uint32_t write_passive_mode(MapContext *ctx, Datatree *node, Datatree *ou
     return add(ctx, out, list("session-open-mode"), constant(mode, node));
 }
 
-uint32_t passive_mode(MapContext *ctx, Datatree *node, Datatree *out, At at)
+uint32_t passive_mode(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     uint32_t outcome = VMF_RC_OK;
@@ -122,7 +122,7 @@ static uint32_t write_local_address(MapContext *ctx, Datatree *node, Datatree *o
     return outcome;
 }
 
-uint32_t local_address(MapContext *ctx, Datatree *node, Datatree *out, const Peer &peer, At at)
+uint32_t local_address(MapContext *ctx, Datatree *node, Datatree *out, const Peer &peer, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     uint32_t outcome = VMF_RC_OK;
@@ -138,7 +138,7 @@ uint32_t local_address(MapContext *ctx, Datatree *node, Datatree *out, const Pee
 
 // ---- Multihop -------------------------------------------------------------------------------
 
-uint32_t multihop_ttl(MapContext *ctx, Datatree *node, Datatree *out, At at)
+uint32_t multihop_ttl(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     constexpr Native count = list("ebgp-multihop/max-hop-count");
     constexpr Native mpls = list("ebgp-multihop/mpls-deactivation");
@@ -172,7 +172,7 @@ static uint32_t name_cluster(MapContext *ctx, Datatree *out, const Peer &peer, G
 }
 
 uint32_t map_route_reflector(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out, const Peer &peer,
-                             const Datatree *source_of_reads, At at)
+                             const Datatree *source_of_reads, const At &at)
 {
     if (branch_of(ctx, node) == Branch::remove) {  // with children too
         force_removal(node);
@@ -182,14 +182,14 @@ uint32_t map_route_reflector(MapContext *ctx, Datatree *node, int32_t subtree_co
     return name_cluster(ctx, out, peer, selection_only, source_of_reads);
 }
 
-uint32_t select_route_reflector(MapContext *ctx, int32_t subtree_count, Datatree *out, const Peer &peer, At at)
+uint32_t select_route_reflector(MapContext *ctx, int32_t subtree_count, Datatree *out, const Peer &peer, const At &at)
 {
     if (!maps_itself(ctx, subtree_count, at)) return VMF_RC_OK;
     return name_cluster(ctx, out, peer, selection_only, nullptr);
 }
 
 // A dotted id is an address; whatever else it is, the router takes it for a number.
-static uint32_t write_cluster_id(MapContext *ctx, Datatree *node, Datatree *out, At at)
+static uint32_t write_cluster_id(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     const char *value = value_of(node);
     if (value != nullptr && vmf_map_is_valid_ipv4_addr(value) != 0) {
@@ -200,7 +200,7 @@ static uint32_t write_cluster_id(MapContext *ctx, Datatree *node, Datatree *out,
     return add(ctx, out, list("neighbor-cluster-id/cluster-id-number"), with_value(node));
 }
 
-uint32_t cluster_id(MapContext *ctx, Datatree *node, Datatree *out, At at)
+uint32_t cluster_id(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     uint32_t outcome = VMF_RC_OK;
@@ -241,7 +241,7 @@ static uint32_t map_restart_flag(MapContext *ctx, Datatree *node, Datatree *out,
 
 // Each native leaf is a turn of its own, and the last one that adds something gives the outcome.
 uint32_t map_graceful_restart(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                              const RestartFlag &flag, At at)
+                              const RestartFlag &flag, const At &at)
 {
     uint32_t last = VMF_RC_OK;
     if (maps_itself(ctx, subtree_count, at)) last = map_restart_flag(ctx, node, out, flag);
@@ -256,7 +256,7 @@ uint32_t map_graceful_restart(MapContext *ctx, Datatree *node, int32_t subtree_c
     return last;
 }
 
-static uint32_t write_restart_enabled(MapContext *ctx, Datatree *node, Datatree *out, At at)
+static uint32_t write_restart_enabled(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     const char *value = value_of(node);
     const char *inverted = nullptr;
@@ -269,7 +269,7 @@ static uint32_t write_restart_enabled(MapContext *ctx, Datatree *node, Datatree 
     return add(ctx, out, restart, constant(inverted, node));
 }
 
-uint32_t graceful_restart_enabled(MapContext *ctx, Datatree *node, Datatree *out, At at)
+uint32_t graceful_restart_enabled(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     uint32_t outcome = VMF_RC_OK;
@@ -291,7 +291,7 @@ uint32_t map_families(MapContext *ctx, const Datatree *node, Datatree *out, cons
 }
 
 // The rows behind the one that matched are compared with the container's name, which is no identity.
-static const char *convert_name(MapContext *ctx, AreSame are_same, uint32_t Req::*bitmap, At at)
+static const char *convert_name(MapContext *ctx, AreSame are_same, uint32_t Req::*bitmap, const At &at)
 {
     const char *native = nullptr;
     uint32_t row = 0;
@@ -308,7 +308,7 @@ static const char *convert_name(MapContext *ctx, AreSame are_same, uint32_t Req:
 }
 
 uint32_t enter_family(MapContext *ctx, const Datatree *node, Datatree *out, const Peer &peer, AreSame are_same,
-                      uint32_t Req::*bitmap, const char **native, At at)
+                      uint32_t Req::*bitmap, const char **native, const At &at)
 {
     ctx->prefix_limit_added = 0;
     if (ctx->list_node == nullptr) {
@@ -324,20 +324,20 @@ uint32_t enter_family(MapContext *ctx, const Datatree *node, Datatree *out, cons
     return check_identity(ctx, node, at);
 }
 
-static uint32_t map_family_name(MapContext *ctx, const Datatree *node, Datatree *out, At at)
+static uint32_t map_family_name(MapContext *ctx, const Datatree *node, Datatree *out, const At &at)
 {
     if (uint32_t bad = check_identity(ctx, node, at)) return bad;
     return repeat_key(ctx, node, out, &Ctx::af_node, {af("af-name"), af("activate")},
                       {&Req::key_leaf_named, &Req::af_name_leaf_named}, at);
 }
 
-uint32_t repeated_family_name(MapContext *ctx, Datatree *node, Datatree *out, At at)
+uint32_t repeated_family_name(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     return log_end(ctx, map_family_name(ctx, node, out, at), at);
 }
 
-static uint32_t select_family_name(MapContext *ctx, const Datatree *node, Datatree *out, At at)
+static uint32_t select_family_name(MapContext *ctx, const Datatree *node, Datatree *out, const At &at)
 {
     if (uint32_t bad = check_identity(ctx, node, at)) return bad;
     const uint32_t outcome = select_rows(ctx, out, {af("af-name"), af("activate")});
@@ -345,13 +345,13 @@ static uint32_t select_family_name(MapContext *ctx, const Datatree *node, Datatr
     return outcome;
 }
 
-uint32_t selected_family_name(MapContext *ctx, Datatree *node, Datatree *out, At at)
+uint32_t selected_family_name(MapContext *ctx, Datatree *node, Datatree *out, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     return log_end(ctx, select_family_name(ctx, node, out, at), at);
 }
 
-uint32_t policy(MapContext *ctx, Datatree *node, Datatree *out, const char *path, At at)
+uint32_t policy(MapContext *ctx, Datatree *node, Datatree *out, const char *path, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     const Given given = {value_of(node), is_read(ctx) ? nullptr : node};
@@ -360,7 +360,7 @@ uint32_t policy(MapContext *ctx, Datatree *node, Datatree *out, const char *path
 
 // ---- The containers of a family -------------------------------------------------------------
 
-uint32_t check_family(MapContext *ctx, const FamilyContainer &container, At at)
+uint32_t check_family(MapContext *ctx, const FamilyContainer &container, const At &at)
 {
     if (ctx->af_name != nullptr && vmf_map_do_these_match(ctx->af_name, container.name) != 0) return VMF_RC_OK;
     VMF_ERR(ctx, at, "afi-safi/af-name has to be %s for afi-safi/%s node to be in the request.", container.name,

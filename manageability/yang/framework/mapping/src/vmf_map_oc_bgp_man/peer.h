@@ -50,29 +50,29 @@ void enter_entry(MapContext *ctx, const Datatree *node, Datatree *out, const Nat
 
 // Hold time and keepalive interval have a native container, the advertisement interval has another.
 [[nodiscard]] uint32_t map_timers(MapContext *ctx, Datatree *node, Datatree *out);
-uint32_t timers_config(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out, At at = here());
-uint32_t minimum_advertisement_interval(MapContext *ctx, Datatree *node, Datatree *out, At at = here());
+uint32_t timers_config(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out, const At &at = here());
+uint32_t minimum_advertisement_interval(MapContext *ctx, Datatree *node, Datatree *out, const At &at = here());
 
 // ---- Transport ------------------------------------------------------------------------------
 
-[[nodiscard]] uint32_t map_transport(MapContext *ctx, Datatree *node, Datatree *out, const Peer &peer, At at);
+[[nodiscard]] uint32_t map_transport(MapContext *ctx, Datatree *node, Datatree *out, const Peer &peer, const At &at);
 uint32_t transport_config(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out, const Peer &peer,
-                          At at = here());
-uint32_t passive_mode(MapContext *ctx, Datatree *node, Datatree *out, At at = here());
-uint32_t local_address(MapContext *ctx, Datatree *node, Datatree *out, const Peer &peer, At at = here());
+                          const At &at = here());
+uint32_t passive_mode(MapContext *ctx, Datatree *node, Datatree *out, const At &at = here());
+uint32_t local_address(MapContext *ctx, Datatree *node, Datatree *out, const Peer &peer, const At &at = here());
 
 // ---- Multihop -------------------------------------------------------------------------------
 
-uint32_t multihop_ttl(MapContext *ctx, Datatree *node, Datatree *out, At at = here());
+uint32_t multihop_ttl(MapContext *ctx, Datatree *node, Datatree *out, const At &at = here());
 
 // ---- Route reflector ------------------------------------------------------------------------
 
 // The cluster id is the entry's, the client flag each of its families'; OpenConfig has no leaf for the flag here.
 [[nodiscard]] uint32_t map_route_reflector(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                                           const Peer &peer, const Datatree *source_of_reads, At at);
+                                           const Peer &peer, const Datatree *source_of_reads, const At &at);
 [[nodiscard]] uint32_t select_route_reflector(MapContext *ctx, int32_t subtree_count, Datatree *out, const Peer &peer,
-                                              At at);
-uint32_t cluster_id(MapContext *ctx, Datatree *node, Datatree *out, At at = here());
+                                              const At &at);
+uint32_t cluster_id(MapContext *ctx, Datatree *node, Datatree *out, const At &at = here());
 
 // ---- Graceful restart -----------------------------------------------------------------------
 
@@ -83,8 +83,8 @@ struct RestartFlag {
     VmfLeafHandler *read_by_gets;  // null: nothing
 };
 [[nodiscard]] uint32_t map_graceful_restart(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *out,
-                                            const RestartFlag &flag, At at);
-uint32_t graceful_restart_enabled(MapContext *ctx, Datatree *node, Datatree *out, At at = here());
+                                            const RestartFlag &flag, const At &at);
+uint32_t graceful_restart_enabled(MapContext *ctx, Datatree *node, Datatree *out, const At &at = here());
 
 // ---- Families -------------------------------------------------------------------------------
 
@@ -95,14 +95,14 @@ uint32_t graceful_restart_enabled(MapContext *ctx, Datatree *node, Datatree *out
 // below. `native` is its native name, or stays null where the entry could not be made.
 using AreSame = bool (*)(const char *a, const char *b);
 [[nodiscard]] uint32_t enter_family(MapContext *ctx, const Datatree *node, Datatree *out, const Peer &peer,
-                                    AreSame are_same, uint32_t Req::*bitmap, const char **native, At at);
+                                    AreSame are_same, uint32_t Req::*bitmap, const char **native, const At &at);
 
 // The name again, below `config` and `state`.
-uint32_t repeated_family_name(MapContext *ctx, Datatree *node, Datatree *out, At at = here());
-uint32_t selected_family_name(MapContext *ctx, Datatree *node, Datatree *out, At at = here());
+uint32_t repeated_family_name(MapContext *ctx, Datatree *node, Datatree *out, const At &at = here());
+uint32_t selected_family_name(MapContext *ctx, Datatree *node, Datatree *out, const At &at = here());
 
 // A policy. A read asks for the one that it names, and a removal takes only that one away.
-uint32_t policy(MapContext *ctx, Datatree *node, Datatree *out, const char *path, At at = here());
+uint32_t policy(MapContext *ctx, Datatree *node, Datatree *out, const char *path, const At &at = here());
 
 // ---- The containers of a family -------------------------------------------------------------
 
@@ -112,5 +112,5 @@ struct FamilyContainer {
 };
 
 // Refuses a container that stands in an entry of another family.
-[[nodiscard]] uint32_t check_family(MapContext *ctx, const FamilyContainer &container, At at);
+[[nodiscard]] uint32_t check_family(MapContext *ctx, const FamilyContainer &container, const At &at);
 [[nodiscard]] uint32_t map_family(MapContext *ctx, Datatree *node, Datatree *out, const FamilyContainer &container);

@@ -190,7 +190,7 @@ GROUP_CONT(gracefulrestart_config)
 }
 
 // A time that is named switches graceful restart on; its removal leaves that as it is.
-static uint32_t restart_time(MapContext *ctx, Datatree *node, Datatree *out, const char *path, At at = here())
+static uint32_t restart_time(MapContext *ctx, Datatree *node, Datatree *out, const char *path, const At &at = here())
 {
     constexpr Native flag = list("neighbor-graceful-restart");
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
@@ -202,7 +202,8 @@ static uint32_t restart_time(MapContext *ctx, Datatree *node, Datatree *out, con
     return log_end(ctx, add(ctx, out, list(path), leaf_gives(ctx, node)), at);
 }
 
-static uint32_t selected_restart_time(MapContext *ctx, Datatree *node, Datatree *out, const char *path, At at = here())
+static uint32_t selected_restart_time(MapContext *ctx, Datatree *node, Datatree *out, const char *path,
+                                      const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     return log_end(ctx, select_rows(ctx, out, {list("neighbor-graceful-restart"), list(path)}), at);

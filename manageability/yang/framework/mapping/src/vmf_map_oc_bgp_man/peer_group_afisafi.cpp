@@ -14,7 +14,7 @@ GROUP_CONT(afisafis)
     return log_end(ctx, outcome);
 }
 
-static uint32_t map_key(MapContext *ctx, const Datatree *node, Datatree *out, At at)
+static uint32_t map_key(MapContext *ctx, const Datatree *node, Datatree *out, const At &at)
 {
     const char *native = nullptr;
     if (uint32_t bad = enter_family(ctx, node, out, peer_group, are_equal, &Req::grp_af_bitmap, &native, at))
@@ -101,7 +101,8 @@ GROUP_FAMILY_CONT(applypolicy_state)
     return log_end(ctx, add_until_failure(ctx, out, {policy_in, policy_out}, {value_of(node), nullptr}));
 }
 
-static uint32_t selected_policy(MapContext *ctx, Datatree *node, Datatree *out, const Native &native, At at = here())
+static uint32_t selected_policy(MapContext *ctx, Datatree *node, Datatree *out, const Native &native,
+                                const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     return log_end(ctx, add(ctx, out, native, {value_of(node), nullptr}), at);
@@ -120,7 +121,7 @@ GROUP_FAMILY_CONT(ipv4unicast)
 }
 
 static uint32_t family_container(MapContext *ctx, Datatree *node, Datatree *out, const FamilyContainer &container,
-                                 At at = here())
+                                 const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     if (uint32_t bad = check_family(ctx, container, at)) return log_end(ctx, bad, at);

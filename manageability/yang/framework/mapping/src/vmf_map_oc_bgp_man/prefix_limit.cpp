@@ -7,7 +7,7 @@ static constexpr char neighbor_limit[] =
 static constexpr char group_limit[] =
     "/cfg/gl/ip-bgp/default/%d/%d/ord_a/default/nbr/________/edm/ord_q/0x2/________/%s/________/ord_s/%s/ord_g/";
 
-static uint32_t max_prefixes(MapContext *ctx, Datatree *node, Datatree *out, At at = here())
+static uint32_t max_prefixes(MapContext *ctx, Datatree *node, Datatree *out, const At &at = here())
 {
     constexpr Native whole = af("maximum-prefixes");
     constexpr Native limit = af("maximum-prefixes/prefix-limit");
@@ -42,7 +42,7 @@ static uint32_t reset_threshold(MapContext *ctx, Datatree *out, const Threshold 
 }
 
 static uint32_t shutdown_threshold(MapContext *ctx, Datatree *node, Datatree *out, const Threshold &threshold,
-                                   At at = here())
+                                   const At &at = here())
 {
     constexpr Native percentage = af("maximum-prefixes/warning-percentage");
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;

@@ -44,7 +44,7 @@ static bool passes(MapContext *ctx, Gate gate)
 }
 
 static uint32_t dispatch(MapContext *ctx, Datatree *child, const char *tag, Datatree *out,
-                         std::span<const WalkChild> allowed, At at)
+                         std::span<const WalkChild> allowed, const At &at)
 {
     for (const WalkChild &candidate : allowed) {
         if (vmf_map_do_these_match(tag, candidate.tag) != 0 && passes(ctx, candidate.gate))
@@ -57,7 +57,7 @@ static uint32_t dispatch(MapContext *ctx, Datatree *child, const char *tag, Data
 
 // All children in order, save the list key (null for a container); the first failure ends it.
 static uint32_t walk_children(MapContext *ctx, Children children, Datatree *out, std::span<const WalkChild> allowed,
-                              const char *key, At at)
+                              const char *key, const At &at)
 {
     for (int32_t i = 0; i < children.count; i++) {
         Datatree *child = &children.first[i];
@@ -73,7 +73,7 @@ static uint32_t walk_children(MapContext *ctx, Children children, Datatree *out,
     return VMF_RC_OK;
 }
 
-static uint32_t refuse_corrupt(MapContext *ctx, At at)
+static uint32_t refuse_corrupt(MapContext *ctx, const At &at)
 {
     VMF_ERR(ctx, at, "Failed to get subtrees!");
     return log_end(ctx, VMF_RC_BAD_TREE, at);
@@ -81,7 +81,7 @@ static uint32_t refuse_corrupt(MapContext *ctx, At at)
 
 // ---- Container and leaf ---------------------------------------------------------------------
 
-uint32_t walk_container(MapContext *ctx, Datatree *node, Datatree *out, const WalkContainer &rule, At at)
+uint32_t walk_container(MapContext *ctx, Datatree *node, Datatree *out, const WalkContainer &rule, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     if (is_corrupt(node)) return refuse_corrupt(ctx, at);
@@ -94,7 +94,7 @@ uint32_t walk_container(MapContext *ctx, Datatree *node, Datatree *out, const Wa
     return log_end(ctx, outcome, at);
 }
 
-uint32_t walk_leaf(MapContext *ctx, Datatree *node, Datatree *out, VmfLeafHandler *handler, At at)
+uint32_t walk_leaf(MapContext *ctx, Datatree *node, Datatree *out, VmfLeafHandler *handler, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     return log_end(ctx, handler(ctx, node, out), at);
@@ -102,7 +102,7 @@ uint32_t walk_leaf(MapContext *ctx, Datatree *node, Datatree *out, VmfLeafHandle
 
 // ---- List entry -----------------------------------------------------------------------------
 
-static void say_key_expected(MapContext *ctx, const char *key, At at)
+static void say_key_expected(MapContext *ctx, const char *key, const At &at)
 {
     VMF_ERR(ctx, at, "List key '%s' expected.", key);
 }
@@ -126,7 +126,7 @@ static Datatree *find_key(Children children, const char *key)
 static bool is_key(const char *tag, const char *key) { return tag != nullptr && vmf_map_do_these_match(tag, key) != 0; }
 
 // Runs the key's leaf. The lists differ in what they make of its outcome, and the differences stay.
-static uint32_t walk_key(MapContext *ctx, Datatree *key, Datatree *out, const WalkList &rule, At at)
+static uint32_t walk_key(MapContext *ctx, Datatree *key, Datatree *out, const WalkList &rule, const At &at)
 {
     const uint32_t outcome = rule.walk_key(ctx, key, out);
     const char *tag = tag_of(key);
@@ -141,7 +141,7 @@ static uint32_t walk_key(MapContext *ctx, Datatree *key, Datatree *out, const Wa
 }
 
 static uint32_t enter_list(MapContext *ctx, Datatree *node, Children children, Datatree *out, const WalkList &rule,
-                           At at)
+                           const At &at)
 {
     ctx->list_child_count = static_cast<uint32_t>(children.count);
     if (children.count == 0) {
@@ -166,7 +166,7 @@ static uint32_t enter_list(MapContext *ctx, Datatree *node, Children children, D
     return walk_key(ctx, key, out, rule, at);
 }
 
-uint32_t walk_list_entry(MapContext *ctx, Datatree *node, Datatree *out, const WalkList &rule, At at)
+uint32_t walk_list_entry(MapContext *ctx, Datatree *node, Datatree *out, const WalkList &rule, const At &at)
 {
     if (uint32_t bad = enter(ctx, node, out, at)) return bad;
     if (is_corrupt(node)) return refuse_corrupt(ctx, at);

@@ -51,6 +51,7 @@ struct WalkList {
     Scope scope;
 };
 
-uint32_t walk_container(MapContext *ctx, Datatree *node, Datatree *out, const WalkContainer &rule, At at = here());
-uint32_t walk_list_entry(MapContext *ctx, Datatree *node, Datatree *out, const WalkList &rule, At at = here());
-uint32_t walk_leaf(MapContext *ctx, Datatree *node, Datatree *out, VmfLeafHandler *handler, At at = here());
+uint32_t walk_container(MapContext *ctx, Datatree *node, Datatree *out, const WalkContainer &rule,
+                        const At &at = here());
+uint32_t walk_list_entry(MapContext *ctx, Datatree *node, Datatree *out, const WalkList &rule, const At &at = here());
+uint32_t walk_leaf(MapContext *ctx, Datatree *node, Datatree *out, VmfLeafHandler *handler, const At &at = here());

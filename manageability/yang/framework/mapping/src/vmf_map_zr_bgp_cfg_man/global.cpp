@@ -30,7 +30,7 @@ static bool wants_confederation_state(const MapContext *ctx, uint32_t leaf)
 }
 
 // Either native container says that there is a confederation; nothing of it is configuration.
-static uint32_t confederation_container(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t confederation_container(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     uint32_t outcome = VMF_RC_OK;
@@ -43,7 +43,7 @@ GLOBAL_CONT(confederationdomain) { return confederation_container(ctx, node, map
 GLOBAL_CONT(confederationpeerases) { return confederation_container(ctx, node, mapped); }
 
 static uint32_t confederation_as(MapContext *ctx, Datatree *node, Datatree *mapped, const Copies &copies, uint32_t leaf,
-                                 At at = here())
+                                 const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     const AsText as = composed_as(ctx, node);

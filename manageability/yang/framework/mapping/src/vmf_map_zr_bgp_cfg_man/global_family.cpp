@@ -104,7 +104,7 @@ static bool families_agree(const char *const *slots)
 }
 
 static uint32_t fold_distance(MapContext *ctx, Datatree *node, Datatree *mapped, Distance distance,
-                              const Copies &copies, At at = here())
+                              const Copies &copies, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     const char *value = value_of(node);
@@ -127,7 +127,7 @@ FAMILY_MAN_LEAF(distance_internalroutes) { return fold_distance(ctx, node, mappe
 
 // ---- Multiple paths -------------------------------------------------------------------------
 
-static uint32_t paths_container(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t paths_container(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     uint32_t outcome = VMF_RC_OK;
@@ -199,7 +199,8 @@ static uint32_t write_state_paths(MapContext *ctx, Datatree *mapped, const PathF
     return write_below(ctx, global, "use-multiple-paths/state/enabled", "true");
 }
 
-static uint32_t fold_paths(MapContext *ctx, Datatree *node, Datatree *mapped, const PathFold &fold, At at = here())
+static uint32_t fold_paths(MapContext *ctx, Datatree *node, Datatree *mapped, const PathFold &fold,
+                           const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     const char *value = value_of(node);

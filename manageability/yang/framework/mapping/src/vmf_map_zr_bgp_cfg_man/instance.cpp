@@ -12,7 +12,7 @@ ZR_CFG_LEAF(_instance_instanceas_as)
     return log_end(ctx, VMF_RC_OK);
 }
 
-static uint32_t write_as(MapContext *ctx, const Datatree *node, Datatree *mapped, At at)
+static uint32_t write_as(MapContext *ctx, const Datatree *node, Datatree *mapped, const At &at)
 {
     if (ctx->request->global_as_named == 0) {
         VMF_TRC(ctx, at, "global/as should not be added.");

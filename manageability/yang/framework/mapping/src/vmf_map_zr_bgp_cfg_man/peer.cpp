@@ -72,7 +72,7 @@ static uint32_t make_entry(MapContext *ctx, const Datatree *node, Datatree *mapp
     return outcome;
 }
 
-static uint32_t entry_name(MapContext *ctx, Datatree *node, Datatree *mapped, const Peer &peer, At at = here())
+static uint32_t entry_name(MapContext *ctx, Datatree *node, Datatree *mapped, const Peer &peer, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     return log_end(ctx, make_entry(ctx, node, mapped, peer), at);
@@ -83,7 +83,8 @@ static bool gives_way_to_key(const MapContext *ctx, const Peer &peer)
     return peer.yields_to_key && ctx->request->key_leaf_named != 0;
 }
 
-static uint32_t yielding_value(MapContext *ctx, Datatree *node, Datatree *mapped, const Copies &copies, At at = here())
+static uint32_t yielding_value(MapContext *ctx, Datatree *node, Datatree *mapped, const Copies &copies,
+                               const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     if (gives_way_to_key(ctx, neighbor)) return log_end(ctx, VMF_RC_OK, at);
@@ -92,7 +93,7 @@ static uint32_t yielding_value(MapContext *ctx, Datatree *node, Datatree *mapped
 
 // ---- AS numbers -----------------------------------------------------------------------------
 
-static uint32_t remote_as(MapContext *ctx, Datatree *node, Datatree *mapped, const Peer &peer, At at = here())
+static uint32_t remote_as(MapContext *ctx, Datatree *node, Datatree *mapped, const Peer &peer, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     const AsText as = composed_as(ctx, node);
@@ -100,7 +101,7 @@ static uint32_t remote_as(MapContext *ctx, Datatree *node, Datatree *mapped, con
     return log_end(ctx, write_copies(ctx, mapped, oc_list_copies(COPIES("", "/peer-as")), as.text), at);
 }
 
-static uint32_t local_as(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t local_as(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     const AsText as = composed_as(ctx, node);
@@ -109,14 +110,14 @@ static uint32_t local_as(MapContext *ctx, Datatree *node, Datatree *mapped, At a
 
 // ---- Transport ------------------------------------------------------------------------------
 
-static uint32_t local_address(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t local_address(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     ctx->local_address_seen = 1;
     return log_end(ctx, VMF_RC_OK, at);
 }
 
-static uint32_t local_address_disable(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t local_address_disable(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     if (matches(value_of(node), "false")) ctx->local_address_seen = 0;
@@ -124,7 +125,7 @@ static uint32_t local_address_disable(MapContext *ctx, Datatree *node, Datatree 
 }
 
 // An address holds only if the native model has said before that it is not disabled.
-static uint32_t local_ip_address(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t local_ip_address(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     if (ctx->local_address_seen != 0) return log_end(ctx, VMF_RC_OK, at);
@@ -132,7 +133,7 @@ static uint32_t local_ip_address(MapContext *ctx, Datatree *node, Datatree *mapp
     return log_end(ctx, write_copies(ctx, mapped, copies, value_of(node)), at);
 }
 
-static uint32_t open_mode(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t open_mode(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     const char *passive = nullptr;
@@ -144,7 +145,7 @@ static uint32_t open_mode(MapContext *ctx, Datatree *node, Datatree *mapped, At 
 
 // ---- Multihop -------------------------------------------------------------------------------
 
-static uint32_t hop_count(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t hop_count(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     ctx->multihop_ttl = value_of(node);
@@ -153,7 +154,7 @@ static uint32_t hop_count(MapContext *ctx, Datatree *node, Datatree *mapped, At 
 
 // The hop count waits for this leaf. On purpose: it is never cleared, so a leaf that comes without one has the count of
 // the entry before.
-static uint32_t mpls_deactivation(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t mpls_deactivation(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     if (!matches(value_of(node), "FALSE") && !matches(value_of(node), "false")) return log_end(ctx, VMF_RC_OK, at);
@@ -163,7 +164,7 @@ static uint32_t mpls_deactivation(MapContext *ctx, Datatree *node, Datatree *map
 
 // ---- Password and graceful restart ----------------------------------------------------------
 
-static uint32_t password_disable(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t password_disable(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     if (has_value(node)) ctx->password_disabled = strcasecmp(node->value, "false") != 0 ? 1 : 0;
@@ -171,7 +172,7 @@ static uint32_t password_disable(MapContext *ctx, Datatree *node, Datatree *mapp
 }
 
 // The native flag says the opposite.
-static uint32_t graceful_restart(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t graceful_restart(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     const char *enabled = matches(value_of(node), "false") ? "true" : "false";
@@ -182,7 +183,7 @@ static uint32_t graceful_restart(MapContext *ctx, Datatree *node, Datatree *mapp
 // ---- Families -------------------------------------------------------------------------------
 
 static uint32_t families(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *mapped, bool counts_paths,
-                         At at = here())
+                         const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     if (maps_itself(ctx, subtree_count, at))
@@ -230,7 +231,7 @@ static bool is_wanted(const MapContext *ctx, const Peer &peer, uint32_t row)
     return request->*peer.family_filter == 0 || (request->*peer.family_bitmap & uint32_t{1} << row) != 0;
 }
 
-static uint32_t map_family(MapContext *ctx, const Datatree *node, Datatree *mapped, const Peer &peer, At at)
+static uint32_t map_family(MapContext *ctx, const Datatree *node, Datatree *mapped, const Peer &peer, const At &at)
 {
     if (ctx->list_node == nullptr) {
         VMF_ERR(ctx, at, "The parent list node does not exist!");
@@ -253,7 +254,7 @@ static uint32_t map_family(MapContext *ctx, const Datatree *node, Datatree *mapp
     return outcome;
 }
 
-static uint32_t family_name(MapContext *ctx, Datatree *node, Datatree *mapped, const Peer &peer, At at = here())
+static uint32_t family_name(MapContext *ctx, Datatree *node, Datatree *mapped, const Peer &peer, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     return log_end(ctx, map_family(ctx, node, mapped, peer, at), at);
@@ -274,7 +275,7 @@ static uint32_t write_below_family(MapContext *ctx, Datatree *mapped, const char
     return write_copies(ctx, mapped, oc_af_copies(config_path, state_path), text);
 }
 
-static uint32_t prefix_limit(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t prefix_limit(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     return log_end(ctx,
@@ -283,7 +284,7 @@ static uint32_t prefix_limit(MapContext *ctx, Datatree *node, Datatree *mapped, 
                    at);
 }
 
-static uint32_t warning_percentage(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t warning_percentage(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     return log_end(ctx,
@@ -293,7 +294,7 @@ static uint32_t warning_percentage(MapContext *ctx, Datatree *node, Datatree *ma
 }
 
 // On purpose: below the native name of the family, which OpenConfig has for two families of those that it is read for.
-static uint32_t default_originate(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t default_originate(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     return log_end(
@@ -301,7 +302,7 @@ static uint32_t default_originate(MapContext *ctx, Datatree *node, Datatree *map
         at);
 }
 
-static uint32_t activate(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t activate(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     return family_switch(ctx, node, mapped, oc_af_copies(COPIES("", "/enabled")),
                          oc_af_copies(COPIES("", "/afi-safi-name")), &Ctx::af_name, at);
@@ -313,7 +314,8 @@ static uint32_t activate(MapContext *ctx, Datatree *node, Datatree *mapped, At a
 
 enum PrivateAs { not_seen = 0, removed = 1, kept = 2 };
 
-static uint32_t private_as(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *mapped, At at = here())
+static uint32_t private_as(MapContext *ctx, Datatree *node, int32_t subtree_count, Datatree *mapped,
+                           const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     if (subtree_count == 0) return log_end(ctx, VMF_RC_OK, at);
@@ -336,7 +338,7 @@ static void fold_private_as(MapContext *ctx, const Datatree *node)
     ctx->private_as_state = value != nullptr && strcasecmp(value, "true") == 0 ? removed : kept;
 }
 
-static uint32_t private_as_enable(MapContext *ctx, Datatree *node, Datatree *mapped, At at = here())
+static uint32_t private_as_enable(MapContext *ctx, Datatree *node, Datatree *mapped, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     fold_private_as(ctx, node);

@@ -8,7 +8,7 @@ ZR_OPER_LEAF(_instances_instance_instancename) { return silent(ctx, node, mapped
 
 // ---- af-name --------------------------------------------------------------------------------
 
-static uint32_t make_entry(MapContext *ctx, Datatree *mapped, const char *name, Datatree **entry, At at)
+static uint32_t make_entry(MapContext *ctx, Datatree *mapped, const char *name, Datatree **entry, const At &at)
 {
     Datatree *families = nullptr;
     if (uint32_t bad = write_text(ctx, mapped, oc("/bgp/global/afi-safis"), nullptr, &families)) {
@@ -25,7 +25,7 @@ static uint32_t make_entry(MapContext *ctx, Datatree *mapped, const char *name, 
     return vmf_map_datatree_add_data_ns(ctx, *entry, "afi-safi/afi-safi-name", OC_BGP_TYPES_NS);
 }
 
-static uint32_t enter_family(MapContext *ctx, const Datatree *node, Datatree *mapped, At at)
+static uint32_t enter_family(MapContext *ctx, const Datatree *node, Datatree *mapped, const At &at)
 {
     RequestContext *request = ctx->request;
     if (request->af_prefixes_wanted == 0 && request->af_paths_wanted == 0) {
@@ -86,7 +86,8 @@ static uint32_t write_total(MapContext *ctx, Datatree *mapped, const Total &tota
     return write_below(ctx, state, total.leaf, own);
 }
 
-static uint32_t add_to_total(MapContext *ctx, Datatree *node, Datatree *mapped, const Total &total, At at = here())
+static uint32_t add_to_total(MapContext *ctx, Datatree *node, Datatree *mapped, const Total &total,
+                             const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     ctx->*total.sum += static_cast<uint32_t>(number_of(value_of(node)));
@@ -97,7 +98,7 @@ static uint32_t add_to_total(MapContext *ctx, Datatree *node, Datatree *mapped, 
 
 // A family that has no entry of its own yet takes the one that its name matched.
 static uint32_t total_leaf(MapContext *ctx, Datatree *node, Datatree *mapped, const Total &total, VmfLeafHandler *body,
-                           At at = here())
+                           const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     if (ctx->request->*total.of_family != 0 && ctx->list_node == nullptr) {

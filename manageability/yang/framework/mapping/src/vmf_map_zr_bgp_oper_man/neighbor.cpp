@@ -16,14 +16,15 @@ static uint32_t add_state(MapContext *ctx, Datatree *entry, const char *containe
 }
 
 static uint32_t state_value(MapContext *ctx, Datatree *node, Datatree *mapped, const char *container, const char *leaf,
-                            At at = here())
+                            const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     return log_end(ctx, add_state(ctx, ctx->list_node, container, leaf, value_of(node)), at);
 }
 
 // The same below the neighbor's address family; one that was passed over has no entry.
-static uint32_t family_state_value(MapContext *ctx, Datatree *node, Datatree *mapped, const char *leaf, At at = here())
+static uint32_t family_state_value(MapContext *ctx, Datatree *node, Datatree *mapped, const char *leaf,
+                                   const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     if (ctx->af_node == nullptr) return log_end(ctx, VMF_RC_OK, at);
@@ -38,7 +39,7 @@ static constexpr const char *session_states[][2] = {
 };
 
 // Null for a state that OpenConfig does not have: the leaf then stands without a value.
-static const char *session_state(MapContext *ctx, const char *native, At at)
+static const char *session_state(MapContext *ctx, const char *native, const At &at)
 {
     for (const auto &state : session_states)
         if (native != nullptr && vmf_map_do_these_match(native, state[0]) != 0) return state[1];
@@ -46,7 +47,7 @@ static const char *session_state(MapContext *ctx, const char *native, At at)
     return nullptr;
 }
 
-static uint32_t write_session_state(MapContext *ctx, const Datatree *node, At at)
+static uint32_t write_session_state(MapContext *ctx, const Datatree *node, const At &at)
 {
     if (!wants_state(ctx)) return VMF_RC_OK;
     return add_state(ctx, ctx->list_node, "state", "session-state", session_state(ctx, value_of(node), at));
@@ -67,7 +68,7 @@ static uint32_t add_capability(MapContext *ctx, const char *capability)
     return add_state(ctx, ctx->list_node, "state", "supported-capabilities", capability);
 }
 
-static uint32_t capability(MapContext *ctx, Datatree *node, Datatree *mapped, const char *name, At at = here())
+static uint32_t capability(MapContext *ctx, Datatree *node, Datatree *mapped, const char *name, const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     return log_end(ctx, is_true(node) ? add_capability(ctx, name) : uint32_t{VMF_RC_OK}, at);
@@ -75,7 +76,7 @@ static uint32_t capability(MapContext *ctx, Datatree *node, Datatree *mapped, co
 
 // Four-byte ASes need both directions. On purpose: the flags are never cleared, and carry over to the neighbors after.
 static uint32_t four_byte_as(MapContext *ctx, Datatree *node, Datatree *mapped, uint32_t Ctx::*direction,
-                             At at = here())
+                             const At &at = here())
 {
     if (uint32_t bad = enter(ctx, node, mapped, at)) return bad;
     if (is_true(node)) ctx->*direction = 1;
@@ -116,7 +117,7 @@ static uint32_t name_family(MapContext *ctx, Datatree *mapped, const char *name)
     return write_family_name(ctx, mapped, held(oc_af("afi-safi-name")), name, "afi-safi/afi-safi-name");
 }
 
-static uint32_t enter_family(MapContext *ctx, const Datatree *node, Datatree *mapped, At at)
+static uint32_t enter_family(MapContext *ctx, const Datatree *node, Datatree *mapped, const At &at)
 {
     if (ctx->list_node == nullptr) {
         VMF_ERR(ctx, at, "The parent list node does not exist!");
