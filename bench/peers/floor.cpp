@@ -65,7 +65,7 @@ Datatree *add_child(Datatree *parent, const char *ns, const char *tag, const cha
 {
     const auto count = static_cast<uint32_t>(parent->subtree_count);
     if (count == parent->subtree_capacity) {
-        const uint32_t capacity = count < 2 ? 2 : count * 2;
+        const uint32_t capacity = count < 4 ? 4 : count * 2;
         parent->subtrees = static_cast<Datatree *>(
             From::grow(parent->subtrees, count * sizeof(Datatree), capacity * sizeof(Datatree)));
         parent->subtree_capacity = capacity;
