@@ -1,16 +1,24 @@
 #include "floor.h"
 
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
+#include "text.h"
 #include "tree.h"
+#include "workload.h"
 
 namespace bench {
 
 namespace {
 
 bool is(const char *a, const char *b) { return std::strcmp(a, b) == 0; }
+
+const char *native_family(const char *identity)
+{
+    return is(identity, "IPV4_UNICAST") ? "ipv4-unicast" : "ipv6-unicast";
+}
+const char *identity_of(const char *family) { return is(family, "ipv4-unicast") ? "IPV4_UNICAST" : "IPV6_UNICAST"; }
+const char *inverse(const char *boolean) { return is(boolean, "true") ? "false" : "true"; }
 
 struct FromMalloc {
     static void *grow(void *old, size_t /*old_size*/, size_t size) { return std::realloc(old, size); }
@@ -46,17 +54,29 @@ struct FromBump {
     }
 };
 
-template<class From>
-Record *add(Record *parent, const char *tag, const char *value = nullptr)
+void give(Datatree *node, char *owned_value)
 {
-    if (parent->count == parent->capacity) {
-        const size_t capacity = parent->capacity < 2 ? 2 : parent->capacity * 2;
-        parent->children = static_cast<Record *>(
-            From::grow(parent->children, parent->capacity * sizeof(Record), capacity * sizeof(Record)));
-        parent->capacity = capacity;
+    node->value = owned_value;
+    node->present[0] |= VMF_DT_VALUE;
+}
+
+template<class From>
+Datatree *add_child(Datatree *parent, const char *ns, const char *tag, const char *value)
+{
+    const auto count = static_cast<uint32_t>(parent->subtree_count);
+    if (count == parent->subtree_capacity) {
+        const uint32_t capacity = count < 4 ? 4 : count * 2;
+        parent->subtrees = static_cast<Datatree *>(
+            From::grow(parent->subtrees, count * sizeof(Datatree), capacity * sizeof(Datatree)));
+        parent->subtree_capacity = capacity;
+        parent->present[0] |= VMF_DT_SUBTREES;
     }
-    Record *child = &parent->children[parent->count++];
-    *child = {tag, value != nullptr ? From::copy(value) : nullptr, nullptr, 0, 0};
+    Datatree *child = &parent->subtrees[parent->subtree_count++];
+    *child = {};
+    child->tag = const_cast<char *>(tag);
+    child->namespace_ = const_cast<char *>(ns);
+    child->present[0] = VMF_DT_TAG | VMF_DT_NAMESPACE;
+    if (value != nullptr) give(child, From::copy(value));
     return child;
 }
 
@@ -64,118 +84,118 @@ Record *add(Record *parent, const char *tag, const char *value = nullptr)
 
 template<class From>
 struct Forward {
-    static void config(const Datatree &in, Record *out)
+    static Datatree *add(Datatree *parent, const char *tag, const char *value = nullptr)
+    {
+        return add_child<From>(parent, ZR_BGP_CFG_NS, tag, value);
+    }
+
+    static void config(const Datatree &in, Datatree *out)
     {
         for (const Datatree &leaf : platform::children_of(in)) {
             if (is(leaf.tag, "peer-as") || is(leaf.tag, "local-as")) {
-                Record *as = add<From>(out, is(leaf.tag, "peer-as") ? "remote-as" : "local-as");
-                add<From>(as, "as-xx", "0");
-                add<From>(as, "as-yy", leaf.value);
+                Datatree *as = add(out, is(leaf.tag, "peer-as") ? "remote-as" : "local-as");
+                add(as, "as-xx", "0");
+                add(as, "as-yy", leaf.value);
             } else if (is(leaf.tag, "auth-password")) {
-                Record *password = add<From>(out, "password");
-                add<From>(password, "password-disable", "false");
-                add<From>(password, "password", leaf.value);
+                Datatree *password = add(out, "password");
+                add(password, "password-disable", "false");
+                add(password, "password", leaf.value);
             } else if (is(leaf.tag, "description")) {
-                add<From>(out, "description", leaf.value);
+                add(out, "description", leaf.value);
             } else if (is(leaf.tag, "peer-group")) {
-                add<From>(out, "neighbor-group-add-member", leaf.value);
+                add(out, "neighbor-group-add-member", leaf.value);
             }
         }
     }
 
-    static void timers(const Datatree &in, Record *out)
+    static void timers(const Datatree &in, Datatree *out)
     {
-        Record *both = nullptr;
+        Datatree *both = nullptr;
         for (const Datatree &leaf : platform::children_of(in)) {
             if (is(leaf.tag, "minimum-advertisement-interval")) {
-                add<From>(add<From>(out, "advertisement-interval"), "minimum-interval", leaf.value);
+                add(add(out, "advertisement-interval"), "minimum-interval", leaf.value);
                 continue;
             }
-            if (both == nullptr) both = add<From>(out, "timers");
-            add<From>(both, is(leaf.tag, "hold-time") ? "hold-time" : "keepalive-interval", leaf.value);
+            if (both == nullptr) both = add(out, "timers");
+            add(both, is(leaf.tag, "hold-time") ? "hold-time" : "keepalive-interval", leaf.value);
         }
     }
 
-    static void transport(const Datatree &in, Record *out)
+    static void transport(const Datatree &in, Datatree *out)
     {
         for (const Datatree &leaf : platform::children_of(in)) {
             if (is(leaf.tag, "tcp-mss")) {
-                add<From>(add<From>(out, "tcpmss"), "mss", leaf.value);
+                add(add(out, "tcpmss"), "mss", leaf.value);
             } else if (is(leaf.tag, "passive-mode")) {
-                add<From>(out, "session-open-mode", is(leaf.value, "true") ? "passive-only" : "active-only");
+                add(out, "session-open-mode", is(leaf.value, "true") ? "passive-only" : "active-only");
             } else if (is(leaf.tag, "local-address")) {
-                Record *address = add<From>(out, "local-address");
-                add<From>(address, "local-address-disable", "false");
-                add<From>(address, "local-ip-address", leaf.value);
-                add<From>(out, "update-source-interface");
+                Datatree *address = add(out, "local-address");
+                add(address, "local-address-disable", "false");
+                add(address, "local-ip-address", leaf.value);
+                add(out, "update-source-interface");
             }
         }
     }
 
-    static void multihop(const Datatree &in, Record *out)
+    static void multihop(const Datatree &in, Datatree *out)
     {
-        Record *block = add<From>(out, "ebgp-multihop");
-        Record *count = add<From>(block, "max-hop-count", "255");
-        const size_t at = static_cast<size_t>(count - block->children);
-        add<From>(block, "mpls-deactivation", "false");
+        const char *hops = "255";
         for (const Datatree &leaf : platform::children_of(in))
-            if (is(leaf.tag, "multihop-ttl")) block->children[at].value = From::copy(leaf.value);
+            if (is(leaf.tag, "multihop-ttl")) hops = leaf.value;
+        Datatree *block = add(out, "ebgp-multihop");
+        add(block, "max-hop-count", hops);
+        add(block, "mpls-deactivation", "false");
     }
 
-    static void restart(const Datatree &in, Record *out)
+    static void restart(const Datatree &in, Datatree *out)
     {
         for (const Datatree &leaf : platform::children_of(in)) {
             if (is(leaf.tag, "enabled"))
-                add<From>(out, "neighbor-graceful-restart", is(leaf.value, "true") ? "false" : "true");
+                add(out, "neighbor-graceful-restart", inverse(leaf.value));
             else if (is(leaf.tag, "restart-time"))
-                add<From>(out, "neighbor-graceful-restart-time", leaf.value);
+                add(out, "neighbor-graceful-restart-time", leaf.value);
             else
-                add<From>(out, "neighbor-graceful-restart-stalepath-time", leaf.value);
+                add(out, "neighbor-graceful-restart-stalepath-time", leaf.value);
         }
     }
 
-    static const char *native_name(const char *identity)
+    static void limit(const Datatree &in, Datatree *out)
     {
-        return is(identity, "IPV4_UNICAST") ? "ipv4-unicast" : "ipv6-unicast";
-    }
-
-    static void limit(const Datatree &in, Record *out)
-    {
-        Record *maximum = add<From>(out, "maximum-prefixes");
+        Datatree *maximum = add(out, "maximum-prefixes");
         for (const Datatree &leaf : platform::children_of(in)) {
             if (is(leaf.tag, "max-prefixes")) {
-                add<From>(maximum, "prefix-limit", leaf.value);
-                add<From>(maximum, "warning-only", "false");
-                add<From>(maximum, "discard-extra-paths", "false");
+                add(maximum, "prefix-limit", leaf.value);
+                add(maximum, "warning-only", "false");
+                add(maximum, "discard-extra-paths", "false");
             } else {
-                add<From>(maximum, "warning-percentage", leaf.value);
+                add(maximum, "warning-percentage", leaf.value);
             }
         }
     }
 
-    static void family(const Datatree &in, Record *list)
+    static void family(const Datatree &in, Datatree *list)
     {
-        Record *out = add<From>(list, "neighbor-af");
+        Datatree *out = add(list, "neighbor-af");
         for (const Datatree &child : platform::children_of(in)) {
             if (is(child.tag, "afi-safi-name")) {
-                add<From>(out, "af-name", native_name(child.value));
+                add(out, "af-name", native_family(child.value));
             } else if (is(child.tag, "config")) {
-                add<From>(out, "activate");
+                add(out, "activate");
             } else if (is(child.tag, "apply-policy")) {
                 for (const Datatree &leaf : platform::children_of(child.subtrees[0]))
-                    add<From>(out, is(leaf.tag, "import-policy") ? "route-policy-in" : "route-policy-out", leaf.value);
+                    add(out, is(leaf.tag, "import-policy") ? "route-policy-in" : "route-policy-out", leaf.value);
             } else {
                 limit(child.subtrees[0].subtrees[0], out);
             }
         }
     }
 
-    static void neighbor(const Datatree &in, Record *neighbors)
+    static void neighbor(const Datatree &in, Datatree *neighbors)
     {
-        Record *out = add<From>(neighbors, "neighbor");
+        Datatree *out = add(neighbors, "neighbor");
         for (const Datatree &child : platform::children_of(in)) {
             if (is(child.tag, "neighbor-address")) {
-                add<From>(out, "neighbor-address", child.value);
+                add(out, "neighbor-address", child.value);
             } else if (is(child.tag, "config")) {
                 config(child, out);
             } else if (is(child.tag, "timers")) {
@@ -187,74 +207,216 @@ struct Forward {
             } else if (is(child.tag, "graceful-restart")) {
                 restart(child.subtrees[0], out);
             } else if (is(child.tag, "afi-safis")) {
-                Record *list = add<From>(out, "neighbor-afs");
+                Datatree *list = add(out, "neighbor-afs");
                 for (const Datatree &entry : platform::children_of(child)) family(entry, list);
             }
         }
     }
 
-    static Record run(const Datatree &openconfig)
+    static void run(const Datatree &openconfig, Datatree *root)
     {
-        Record root = {};
-        Record *instance = add<From>(add<From>(&root, "bgp"), "instance");
-        add<From>(instance, "instance-name", "default");
-        Record *as = add<From>(instance, "instance-as");
-        add<From>(as, "as", "0");
-        Record *four_byte_as = add<From>(as, "four-byte-as");
-        add<From>(four_byte_as, "as", "65001");
-        Record *entity = add<From>(add<From>(four_byte_as, "default-vrf"), "bgp-entity");
-        Record *neighbors = add<From>(entity, "neighbors");
+        Datatree *instance = add(add(root, "bgp"), "instance");
+        add(instance, "instance-name", "default");
+        Datatree *as = add(instance, "instance-as");
+        add(as, "as", "0");
+        Datatree *four_byte_as = add(as, "four-byte-as");
+        add(four_byte_as, "as", "65001");
+        Datatree *entity = add(add(four_byte_as, "default-vrf"), "bgp-entity");
+        Datatree *neighbors = add(entity, "neighbors");
         for (const Datatree &entry : platform::children_of(openconfig.subtrees[0])) neighbor(entry, neighbors);
-        return root;
     }
 };
 
-void append_text(std::string &text, size_t depth, const char *tag, const char *value)
-{
-    text.append(depth, ' ');
-    text += tag != nullptr ? tag : "-";
-    if (value != nullptr) text += std::string(" = ") + value;
-    text += '\n';
-}
+// ---- Back -----------------------------------------------------------------------------------
 
-void append(std::string &text, const Record &record, size_t depth)
-{
-    append_text(text, depth, record.tag, record.value);
-    for (size_t i = 0; i < record.count; i++) append(text, record.children[i], depth + 1);
-}
+template<class From>
+struct Back {
+    static Datatree *add(Datatree *parent, const char *tag, const char *value = nullptr)
+    {
+        return add_child<From>(parent, OC_BGP_NS, tag, value);
+    }
 
-void append(std::string &text, const Datatree &node, size_t depth)
-{
-    append_text(text, depth, platform::tag_of(node), platform::value_of(node));
-    for (const Datatree &child : platform::children_of(node)) append(text, child, depth + 1);
-}
+    static void add_identity(Datatree *parent, const char *tag, const char *value)
+    {
+        add(parent, tag, value)->data_namespace = const_cast<char *>(OC_BGP_TYPES_NS);
+    }
+
+    // Where `config` lies among the children of a node; its `state` comes next.
+    struct Pair {
+        Datatree *parent;
+        int32_t config;
+
+        Datatree *half(int32_t number) const { return &parent->subtrees[config + number]; }
+        void leaf(const char *tag, const char *value) const
+        {
+            for (const int32_t number : {0, 1}) add(half(number), tag, value);
+        }
+    };
+
+    static Pair add_pair(Datatree *parent)
+    {
+        const int32_t at = parent->subtree_count;
+        add(parent, "config");
+        add(parent, "state");
+        return {parent, at};
+    }
+
+    static Pair add_block(Datatree *parent, const char *tag) { return add_pair(add(parent, tag)); }
+
+    static void limit(const Datatree &in, Datatree *out, const char *family)
+    {
+        const Pair pair = add_block(add(out, family), "prefix-limit");
+        for (const Datatree &leaf : platform::children_of(in)) {
+            if (is(leaf.tag, "prefix-limit"))
+                pair.leaf("max-prefixes", leaf.value);
+            else if (is(leaf.tag, "warning-percentage"))
+                pair.leaf("shutdown-threshold-pct", leaf.value);
+        }
+    }
+
+    static void family(const Datatree &in, Datatree *list)
+    {
+        Datatree *out = add(list, "afi-safi");
+        Pair entry = {};
+        Pair policies = {};
+        const char *name = nullptr;
+        for (const Datatree &child : platform::children_of(in)) {
+            if (is(child.tag, "af-name")) {
+                name = child.value;
+                add_identity(out, "afi-safi-name", identity_of(name));
+                entry = add_pair(out);
+                for (const int32_t number : {0, 1})
+                    add_identity(entry.half(number), "afi-safi-name", identity_of(name));
+            } else if (is(child.tag, "activate")) {
+                entry.leaf("enabled", "true");
+            } else if (is(child.tag, "maximum-prefixes")) {
+                limit(child, out, name);
+            } else {
+                if (policies.parent == nullptr) policies = add_block(out, "apply-policy");
+                policies.leaf(is(child.tag, "route-policy-in") ? "import-policy" : "export-policy", child.value);
+            }
+        }
+    }
+
+    // The blocks of a neighbor that several native nodes go into: numbers of children.
+    struct Blocks {
+        int32_t transport = -1;
+        int32_t timers = -1;
+        int32_t restart = -1;
+    };
+
+    static Pair block(Datatree *out, int32_t &at, const char *tag)
+    {
+        if (at < 0) {
+            at = out->subtree_count;
+            add_block(out, tag);
+        }
+        return {&out->subtrees[at], 0};
+    }
+
+    static bool session(const Datatree &in, Datatree *out, Blocks &blocks)
+    {
+        if (is(in.tag, "session-open-mode")) {
+            block(out, blocks.transport, "transport")
+                .leaf("passive-mode", is(in.value, "passive-only") ? "true" : "false");
+        } else if (is(in.tag, "tcpmss")) {
+            block(out, blocks.transport, "transport").leaf("tcp-mss", in.subtrees[0].value);
+        } else if (is(in.tag, "local-address")) {
+            block(out, blocks.transport, "transport").leaf("local-address", in.subtrees[1].value);
+        } else if (is(in.tag, "ebgp-multihop")) {
+            const Pair pair = add_block(out, "ebgp-multihop");
+            pair.leaf("enabled", "true");
+            pair.leaf("multihop-ttl", in.subtrees[0].value);
+        } else if (is(in.tag, "timers")) {
+            for (const Datatree &leaf : platform::children_of(in))
+                block(out, blocks.timers, "timers").leaf(leaf.tag, leaf.value);
+        } else if (is(in.tag, "advertisement-interval")) {
+            block(out, blocks.timers, "timers").leaf("minimum-advertisement-interval", in.subtrees[0].value);
+        } else if (is(in.tag, "neighbor-graceful-restart")) {
+            block(out, blocks.restart, "graceful-restart").leaf("enabled", inverse(in.value));
+        } else if (is(in.tag, "neighbor-graceful-restart-time")) {
+            block(out, blocks.restart, "graceful-restart").leaf("restart-time", in.value);
+        } else if (is(in.tag, "neighbor-graceful-restart-stalepath-time")) {
+            block(out, blocks.restart, "graceful-restart").leaf("stale-routes-time", in.value);
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+    static void neighbor(const Datatree &in, Datatree *neighbors)
+    {
+        Datatree *out = add(neighbors, "neighbor");
+        Pair entry = {};
+        Blocks blocks;
+        for (const Datatree &child : platform::children_of(in)) {
+            if (is(child.tag, "neighbor-address")) {
+                add(out, "neighbor-address", child.value);
+                entry = add_pair(out);
+                entry.leaf("neighbor-address", child.value);
+            } else if (is(child.tag, "remote-as") || is(child.tag, "local-as")) {
+                entry.leaf(is(child.tag, "remote-as") ? "peer-as" : "local-as", child.subtrees[1].value);
+            } else if (is(child.tag, "password")) {
+                entry.leaf("auth-password", child.subtrees[1].value);
+            } else if (is(child.tag, "description")) {
+                entry.leaf("description", child.value);
+            } else if (is(child.tag, "neighbor-group-add-member")) {
+                entry.leaf("peer-group", child.value);
+            } else if (is(child.tag, "neighbor-afs")) {
+                Datatree *list = add(out, "afi-safis");
+                for (const Datatree &native : platform::children_of(child)) family(native, list);
+            } else {
+                session(child, out, blocks);
+            }
+        }
+    }
+
+    static void run(const Datatree &native, Datatree *root)
+    {
+        const Datatree *node = &native;
+        while (!is(node->tag, "neighbors")) node = &node->subtrees[node->subtree_count - 1];
+        Datatree *neighbors = add(add(root, "bgp"), "neighbors");
+        for (const Datatree &entry : platform::children_of(*node)) neighbor(entry, neighbors);
+    }
+};
+
+// ---- The peer -------------------------------------------------------------------------------
+
+template<class From>
+class Floor : public Peer {
+public:
+    Floor(Way way, size_t neighbors)
+        : way_(way), in_(way == Way::forward ? openconfig_neighbors(neighbors) : native_neighbors(neighbors))
+    {
+    }
+
+    void work() override
+    {
+        if (way_ == Way::forward)
+            Forward<From>::run(in_.root(), &out_);
+        else
+            Back<From>::run(in_.root().subtrees[0], &out_);
+    }
+    size_t nodes_in() const override { return count_nodes(in_.root()); }
+    size_t nodes_out() const override { return count_nodes(out_); }
+    std::string text() const override { return text_of(out_); }
+
+private:
+    Way way_;
+    platform::Tree in_;
+    Datatree out_ = {};  // never freed: its arrays are not the platform's
+};
 
 }  // namespace
 
-Record floor_forward(const Datatree &openconfig, Memory memory)
+std::unique_ptr<Peer> make_malloc_floor(Way way, size_t neighbors)
 {
-    return memory == Memory::malloc ? Forward<FromMalloc>::run(openconfig) : Forward<FromBump>::run(openconfig);
+    return std::make_unique<Floor<FromMalloc>>(way, neighbors);
 }
 
-size_t count_nodes(const Record &record)
+std::unique_ptr<Peer> make_bump_floor(Way way, size_t neighbors)
 {
-    size_t count = 1;
-    for (size_t i = 0; i < record.count; i++) count += count_nodes(record.children[i]);
-    return count;
-}
-
-std::string text_of(const Record &record)
-{
-    std::string text;
-    append(text, record, 0);
-    return text;
-}
-
-std::string text_of(const Datatree &node)
-{
-    std::string text;
-    append(text, node, 0);
-    return text;
+    return std::make_unique<Floor<FromBump>>(way, neighbors);
 }
 
 }  // namespace bench

@@ -1,32 +1,17 @@
-// The least that the work can cost: the same trees from plain records, by a walk that was written for these nodes
-// alone, without a platform, logs, tests or outcomes.
+// The least that the work can cost: the same trees of the same records, by walks that were written for these nodes
+// alone, without a platform, log tests or outcomes.
 #pragma once
 
-#include <cstddef>
-#include <string>
+#include <memory>
 
-#include "vmf_map_types.h"
+#include "peer.h"
 
 namespace bench {
 
-struct Record {
-    const char *tag;
-    const char *value;
-    Record *children;
-    size_t count;
-    size_t capacity;
-};
+// Blocks from malloc: arrays that double, and a copy of each text.
+std::unique_ptr<Peer> make_malloc_floor(Way way, size_t neighbors);
 
-// Where records and texts come from: malloc, with arrays that double; or a bump allocator that never gives back.
-enum class Memory { malloc, bump };
-
-Record floor_forward(const Datatree &openconfig, Memory memory);
-Record floor_back(const Datatree &native, Memory memory);
-
-size_t count_nodes(const Record &record);
-
-// A line a node, for comparing it with what the library made.
-std::string text_of(const Record &record);
-std::string text_of(const Datatree &node);
+// The same from an allocator that only counts up and never gives back.
+std::unique_ptr<Peer> make_bump_floor(Way way, size_t neighbors);
 
 }  // namespace bench

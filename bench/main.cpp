@@ -1,0 +1,92 @@
+// One peer, one way, once, in a process of its own: a line of JSON with what it took.
+//
+//   bench_peer PEER forward|back NEIGHBORS [--tree]
+//
+// `us` is CPU time of the work, in microseconds a neighbor. `heap_bytes` is what the heap holds of the target at its
+// peak, bytes a neighbor, if heap.cpp is preloaded, and null otherwise; `rss_bytes` how much larger than before the
+// work the process became.
+#include <dlfcn.h>
+#include <sys/resource.h>
+#include <time.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+#include "heap.h"
+#include "peer.h"
+
+// By this name callgrind finds what it counts.
+extern "C" __attribute__((noinline)) void bench_work(bench::Peer &peer);
+extern "C" void bench_work(bench::Peer &peer)
+{
+    peer.work();
+    asm volatile("" ::: "memory");
+}
+
+namespace {
+
+double cpu_seconds()
+{
+    timespec now;
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+size_t peak_rss()
+{
+    rusage usage;
+    getrusage(RUSAGE_SELF, &usage);
+    return static_cast<size_t>(usage.ru_maxrss) * 1024;
+}
+
+const bench::PeerKind *find(const char *name)
+{
+    for (const bench::PeerKind &kind : bench::peers())
+        if (std::strcmp(kind.name, name) == 0) return &kind;
+    return nullptr;
+}
+
+int usage()
+{
+    std::fputs("usage: bench_peer PEER forward|back NEIGHBORS [--tree]\npeers:", stderr);
+    for (const bench::PeerKind &kind : bench::peers()) std::fprintf(stderr, " %s", kind.name);
+    std::fputs("\n", stderr);
+    return 2;
+}
+
+}  // namespace
+
+int main(int argc, char **argv)
+{
+    const bench::PeerKind *kind = argc >= 4 ? find(argv[1]) : nullptr;
+    const bool forward = argc >= 4 && std::strcmp(argv[2], "forward") == 0;
+    const size_t count = argc >= 4 ? std::strtoul(argv[3], nullptr, 10) : 0;
+    if (kind == nullptr || count == 0 || (!forward && std::strcmp(argv[2], "back") != 0)) return usage();
+
+    const std::unique_ptr<bench::Peer> peer = kind->make(forward ? bench::Way::forward : bench::Way::back, count);
+    auto *heap = reinterpret_cast<decltype(&bench_heap)>(dlsym(RTLD_DEFAULT, "bench_heap"));
+    bench_heap_figures held = {};
+    if (heap != nullptr) heap(&held);
+    const size_t bytes_before = held.now;
+    const size_t rss_before = peak_rss();
+    const double before = cpu_seconds();
+    bench_work(*peer);
+    const double seconds = cpu_seconds() - before;
+    if (heap != nullptr) heap(&held);
+    const size_t rss_after = peak_rss();
+
+    if (argc == 5 && std::strcmp(argv[4], "--tree") == 0) std::fputs(peer->text().c_str(), stdout);
+    const auto neighbors = static_cast<double>(count);
+    std::printf("{\"peer\": \"%s\", \"way\": \"%s\", \"neighbors\": %zu, \"us\": %.4f, ", argv[1], argv[2], count,
+                seconds * 1e6 / neighbors);
+    std::printf("\"nodes_in\": %zu, \"nodes_out\": %zu, ", peer->nodes_in() / count, peer->nodes_out() / count);
+    if (heap != nullptr)
+        std::printf("\"heap_bytes\": %.1f, ", static_cast<double>(held.peak - bytes_before) / neighbors);
+    else
+        std::printf("\"heap_bytes\": null, ");
+    std::printf("\"rss_bytes\": %.1f}\n", static_cast<double>(rss_after - rss_before) / neighbors);
+    std::fflush(stdout);
+    std::_Exit(0);  // nothing is freed
+}
