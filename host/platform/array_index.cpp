@@ -71,7 +71,7 @@ void ArrayIndex::follow(int32_t count, int32_t added)
     count_ = count + added;
 }
 
-int32_t ArrayIndex::find_by_name(const Datatree *children, int32_t count, const ChildName &name)
+int32_t ArrayIndex::find_by_name(const Datatree *children, int32_t count, ChildName name)
 {
     follow(count);
     const auto ns_of = [](const Datatree &child) { return has(child, VMF_DT_NAMESPACE) ? child.namespace_ : nullptr; };
@@ -86,7 +86,7 @@ int32_t ArrayIndex::find_by_name(const Datatree *children, int32_t count, const 
     return names_.find(hash_of(name.tag), [&](int32_t position) { return has_name(children[position], name); });
 }
 
-int32_t ArrayIndex::find_by_key(const Datatree *children, int32_t count, const ChildName &list, const char *key_tag,
+int32_t ArrayIndex::find_by_key(const Datatree *children, int32_t count, ChildName list, const char *key_tag,
                                 const char *key_value)
 {
     follow(count);

@@ -27,7 +27,7 @@ inline bool same_text(const char *a, const char *b)
     return a != nullptr && b != nullptr && *a == *b && std::strcmp(a, b) == 0;
 }
 
-inline bool has_name(const Datatree &node, const ChildName &name)
+inline bool has_name(const Datatree &node, ChildName name)
 {
     if ((node.present[0] & VMF_DT_TAG) == 0 || !same_text(node.tag, name.tag)) return false;
     return name.ns == nullptr || ((node.present[0] & VMF_DT_NAMESPACE) != 0 && same_text(node.namespace_, name.ns));
@@ -66,10 +66,10 @@ public:
     void follow(int32_t count, int32_t added = 0);
 
     // The first child of that name; -1 if there is none.
-    int32_t find_by_name(const Datatree *children, int32_t count, const ChildName &name);
+    int32_t find_by_name(const Datatree *children, int32_t count, ChildName name);
 
     // The first entry of that list whose key has that value (null: whose key has none); -1 if there is none.
-    int32_t find_by_key(const Datatree *children, int32_t count, const ChildName &list, const char *key_tag,
+    int32_t find_by_key(const Datatree *children, int32_t count, ChildName list, const char *key_tag,
                         const char *key_value);
 
 private:

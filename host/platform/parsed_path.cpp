@@ -48,32 +48,26 @@ ParsedPath parsed(const char *path)
 }
 
 // A path is looked for by its address first, since most are literals; its text is compared all the same.
+thread_local constinit std::array<const ParsedPath *, 1024> by_address = {};
+
 class Cache {
 public:
     const ParsedPath &find(const char *path)
     {
-        const ParsedPath *&slot = by_address_[reinterpret_cast<uintptr_t>(path) / 8 % by_address_.size()];
-        if (slot == nullptr || std::strcmp(slot->text.c_str(), path) != 0) slot = &find_by_text(path);
-        return *slot;
-    }
-
-private:
-    // More than the mapping has: paths that a caller makes up do not pile up.
-    static constexpr size_t limit = 4096;
-
-    const ParsedPath &find_by_text(const char *path)
-    {
         if (auto found = by_text_.find(path); found != by_text_.end()) return *found->second;
         if (by_text_.size() >= limit) {
             by_text_.clear();
-            by_address_ = {};
+            by_address = {};
         }
         auto fresh = std::make_unique<ParsedPath>(parsed(path));
         const std::string_view text = fresh->text;
         return *by_text_.emplace(text, std::move(fresh)).first->second;
     }
 
-    std::array<const ParsedPath *, 1024> by_address_ = {};
+private:
+    // More than the mapping has: paths that a caller makes up do not pile up.
+    static constexpr size_t limit = 4096;
+
     std::unordered_map<std::string_view, std::unique_ptr<ParsedPath>> by_text_ = {};
 };
 
@@ -81,6 +75,11 @@ thread_local Cache cache;
 
 }  // namespace
 
-const ParsedPath &parse_path(const char *path) { return cache.find(path); }
+const ParsedPath &parse_path(const char *path)
+{
+    const ParsedPath *&slot = by_address[reinterpret_cast<uintptr_t>(path) / 8 % by_address.size()];
+    if (slot == nullptr || std::strcmp(slot->text.c_str(), path) != 0) slot = &cache.find(path);
+    return *slot;
+}
 
 }  // namespace platform

@@ -32,11 +32,12 @@ static constexpr uint8_t selected = 1;
 static constexpr uint8_t named_by_table = 2;  // tag and namespace are those of the process's table of names
 bool is_selected(const Datatree &node) { return (node.present[1] & selected) != 0; }
 
-std::span<Datatree> children_of(const Datatree &node)
+static inline std::span<Datatree> children(const Datatree &node)
 {
     if (!has(node, VMF_DT_SUBTREES) || node.subtrees == nullptr || node.subtree_count < 1) return {};
     return {node.subtrees, static_cast<size_t>(node.subtree_count)};
 }
+std::span<Datatree> children_of(const Datatree &node) { return children(node); }
 
 static std::atomic<bool> moves_arrays = false;
 
@@ -159,21 +160,21 @@ static ArrayIndex &index_of(Datatree &parent)
 }
 
 // Names that both come from the table are the same only where their addresses are.
-static bool is_named(const Datatree &node, const ChildName &name)
+static bool is_named(const Datatree &node, ChildName name)
 {
     if ((node.present[1] & named_by_table) == 0) return has_name(node, name);
     return node.tag == name.tag && (name.ns == nullptr || node.namespace_ == name.ns);
 }
 
 // `name` is of the table of names, here and below.
-static Datatree *find_child(Datatree &parent, const ChildName &name)
+static Datatree *find_child(Datatree &parent, ChildName name)
 {
-    const std::span<Datatree> children = children_of(parent);
-    if (children.size() >= indexed_from) {
-        const int32_t at = index_of(parent).find_by_name(children.data(), parent.subtree_count, name);
-        return at >= 0 ? &children[static_cast<size_t>(at)] : nullptr;
+    const std::span<Datatree> all = children(parent);
+    if (all.size() >= indexed_from) {
+        const int32_t at = index_of(parent).find_by_name(all.data(), parent.subtree_count, name);
+        return at >= 0 ? &all[static_cast<size_t>(at)] : nullptr;
     }
-    for (Datatree &child : children)
+    for (Datatree &child : all)
         if (is_named(child, name)) return &child;
     return nullptr;
 }
@@ -183,15 +184,14 @@ static bool same_key(const char *a, const char *b)
     return a == nullptr || b == nullptr ? a == b : std::strcmp(a, b) == 0;
 }
 
-static Datatree *find_entry(Datatree &parent, const ChildName &list, const char *key_tag, const char *key_value)
+static Datatree *find_entry(Datatree &parent, ChildName list, const char *key_tag, const char *key_value)
 {
-    const std::span<Datatree> children = children_of(parent);
-    if (children.size() >= indexed_from) {
-        const int32_t at =
-            index_of(parent).find_by_key(children.data(), parent.subtree_count, list, key_tag, key_value);
-        return at >= 0 ? &children[static_cast<size_t>(at)] : nullptr;
+    const std::span<Datatree> all = children(parent);
+    if (all.size() >= indexed_from) {
+        const int32_t at = index_of(parent).find_by_key(all.data(), parent.subtree_count, list, key_tag, key_value);
+        return at >= 0 ? &all[static_cast<size_t>(at)] : nullptr;
     }
-    for (Datatree &child : children)
+    for (Datatree &child : all)
         if (is_named(child, list) && same_key(key_value_of(child, key_tag), key_value)) return &child;
     return nullptr;
 }
@@ -245,19 +245,18 @@ static uint32_t done(const MakeOperation &asked, const Added &added, Datatree **
     return VMF_RC_OK;
 }
 
-static Datatree *append_named(Datatree &parent, const ChildName &name)
+static Datatree *append_named(Datatree &parent, ChildName name)
 {
     return append(parent, name.tag, name.ns, named_by_table);
 }
 
-static Datatree *find_or_append(Datatree &parent, const ChildName &name)
+static Datatree *find_or_append(Datatree &parent, ChildName name)
 {
     Datatree *found = find_child(parent, name);
     return found != nullptr ? found : append_named(parent, name);
 }
 
-static Datatree *find_or_append_entry(Datatree &parent, const ChildName &list, const char *key_tag,
-                                      const char *key_value)
+static Datatree *find_or_append_entry(Datatree &parent, ChildName list, const char *key_tag, const char *key_value)
 {
     if (Datatree *found = find_entry(parent, list, key_tag, key_value)) return found;
     Datatree *entry = append_named(parent, list);

@@ -23,7 +23,7 @@ constexpr At here(const char *function = __builtin_FUNCTION(), const char *file 
 }
 
 // Writes "FILE: LINE EXPRESSION -- assertion failed" to stderr and ends the process with a memory fault at address 1.
-[[noreturn]] void assertion_failed(const At &at, const char *expression);
+[[noreturn]] void assertion_failed(const char *file, int line, const char *expression);
 
 // An address that the compiler must take as unknown: the member of a record that is not null never lies at null, and
 // the test for it, with the text of its assertion, would be removed.
@@ -33,24 +33,27 @@ inline bool lies_at_null(const void *address)
     return address == nullptr;
 }
 
-// What of a statement is left when one of its channels is on; the log's test is done.
-void speak_start(MapContext *ctx, const At &at, uint32_t log_is_on);
-void speak_end(MapContext *ctx, const At &at, uint32_t log_is_on);
+// What of a statement is left when one of its channels is on; the log's test is done. The place comes in parts: it need
+// not be written down before it is needed.
+void speak_start(MapContext *ctx, const char *function, int line, uint32_t log_is_on);
+void speak_end(MapContext *ctx, const char *function, int line, uint32_t log_is_on);
 
 // Asserts `ctx` and its debug context, logs "Start". Every mapping function opens with it.
 inline void log_start(MapContext *ctx, const At &at = here())
 {
-    if (ctx == nullptr) assertion_failed(at, "NULL != ctx");
+    if (ctx == nullptr) assertion_failed(at.file, at.line, "NULL != ctx");
     const uint32_t log_is_on = vmf_debug_should_log(&ctx->_debug_ctx, 3);
-    if (lies_at_null(&ctx->_debug_ctx)) assertion_failed(at, "NULL != (&((ctx)->_debug_ctx))");
-    if (__builtin_expect(log_is_on != 0 || ctx->_debug_ctx.trace_enabled != 0, 0)) speak_start(ctx, at, log_is_on);
+    if (lies_at_null(&ctx->_debug_ctx)) assertion_failed(at.file, at.line, "NULL != (&((ctx)->_debug_ctx))");
+    if (__builtin_expect(log_is_on != 0 || ctx->_debug_ctx.trace_enabled != 0, 0))
+        speak_start(ctx, at.function, at.line, log_is_on);
 }
 
 // Logs "End" and gives `outcome` back. Every return but the one for bad arguments goes through it.
 inline uint32_t log_end(MapContext *ctx, uint32_t outcome, const At &at = here())
 {
     const uint32_t log_is_on = vmf_debug_should_log(&ctx->_debug_ctx, 3);
-    if (__builtin_expect(log_is_on != 0 || ctx->_debug_ctx.trace_enabled != 0, 0)) speak_end(ctx, at, log_is_on);
+    if (__builtin_expect(log_is_on != 0 || ctx->_debug_ctx.trace_enabled != 0, 0))
+        speak_end(ctx, at.function, at.line, log_is_on);
     return outcome;
 }
 

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "frame.h"
 #include "native_path.h"
 #include "native_paths.h"
 #include "node.h"
@@ -225,34 +226,41 @@ static uint32_t common_path(MapContext *ctx, Datatree *out, Datatree **four_byte
     return VMF_RC_OK;
 }
 
+static uint32_t add_absolute(MapContext *ctx, Datatree *tree, const PathAdd &given, const At &at)
+{
+    if (const Reserved reserved = reserved_path(given.path); reserved != Reserved::none)
+        return add_reserved(ctx, tree, reserved, given.value, given.operation_source);
+
+    constexpr size_t prefix = sizeof ZR_BGP_FOUR_BYTE_AS - 1;
+    if (std::strncmp(given.path, ZR_BGP_FOUR_BYTE_AS, prefix) != 0) {
+        VMF_ERR(ctx, at, "The passed path is not BGP CFG common path! (%s)", given.path);
+        return VMF_RC_BAD_ARGS;
+    }
+
+    Datatree *four_byte_as = nullptr;
+    uint32_t outcome = common_path(ctx, tree, &four_byte_as, at);
+    if (outcome == VMF_RC_OK && four_byte_as == nullptr) outcome = VMF_RC_BAD_TREE;
+    if (outcome != VMF_RC_OK) {
+        VMF_ERR(ctx, at, "Failed to process common path!");
+        return outcome;
+    }
+    if (given.path[prefix] == '\0') {
+        copy_operation(four_byte_as, given.operation_source);
+        if (given.result != nullptr) *given.result = four_byte_as;
+        return VMF_RC_OK;
+    }
+    // The rest begins one character behind the prefix, whichever character that is.
+    return add_below(ctx, four_byte_as, given.path + prefix + 1, given);
+}
+
 extern "C" uint32_t vmf_map_zr_bgp_cfg_add_path(MapContext *ctx, Datatree *tree, const char *path, const char *ns,
                                                 const char *value, const Datatree *operation_source, Datatree **result,
                                                 uint32_t repeat)
 {
     if (uint32_t bad = enter_service(ctx, here(), tree, path, ns)) return bad;
-    const PathAdd given = {path, ns, value, operation_source, result, repeat};
-    if (path[0] != '/') return log_end(ctx, add_relative(ctx, tree, given, here()));
-    if (const Reserved reserved = reserved_path(path); reserved != Reserved::none)
-        return log_end(ctx, add_reserved(ctx, tree, reserved, value, operation_source));
-
-    constexpr size_t prefix = sizeof ZR_BGP_FOUR_BYTE_AS - 1;
-    if (std::strncmp(path, ZR_BGP_FOUR_BYTE_AS, prefix) != 0) {
-        VMF_ERR(ctx, here(), "The passed path is not BGP CFG common path! (%s)", path);
-        return log_end(ctx, VMF_RC_BAD_ARGS);
-    }
-
-    Datatree *four_byte_as = nullptr;
-    uint32_t outcome = common_path(ctx, tree, &four_byte_as, here());
-    if (outcome == VMF_RC_OK && four_byte_as == nullptr) outcome = VMF_RC_BAD_TREE;
-    if (outcome != VMF_RC_OK) {
-        VMF_ERR(ctx, here(), "Failed to process common path!");
-        return log_end(ctx, outcome);
-    }
-    if (path[prefix] == '\0') {
-        copy_operation(four_byte_as, operation_source);
-        if (result != nullptr) *result = four_byte_as;
-        return log_end(ctx, VMF_RC_OK);
-    }
-    // The rest begins one character behind the prefix, whichever character that is.
-    return log_end(ctx, add_below(ctx, four_byte_as, path + prefix + 1, given));
+    if (path[0] == '/')
+        return log_end(ctx, add_absolute(ctx, tree, {path, ns, value, operation_source, result, repeat}, here()));
+    // A relative path hangs from an entry that stands already: no level above it is supplied.
+    VMF_TRC(ctx, here(), "Setting a relative path '%s' with '%s'", path, shown(value));
+    return log_end(ctx, vmf_map_datatree_add_path_common(ctx, tree, path, ns, value, operation_source, result, repeat));
 }

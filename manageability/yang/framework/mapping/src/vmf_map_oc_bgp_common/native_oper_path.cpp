@@ -2,6 +2,7 @@
 // operational path are simpler than those of the configuration: no AS, no reserved paths, no operations.
 #include <cstring>
 
+#include "frame.h"
 #include "native_path.h"
 #include "native_paths.h"
 #include "node.h"
@@ -33,31 +34,36 @@ static uint32_t add_oper_instance(MapContext *ctx, Datatree *out, Datatree **ins
     return VMF_RC_OK;
 }
 
+static uint32_t add_absolute(MapContext *ctx, Datatree *tree, const PathAdd &given, const At &at)
+{
+    constexpr size_t prefix = sizeof ZR_BGP_OPER_INSTANCE - 1;
+    if (std::strncmp(given.path, ZR_BGP_OPER_INSTANCE, prefix) != 0) {
+        VMF_ERR(ctx, at, "The passed path is not BGP OPER common path! (%s)", given.path);
+        return VMF_RC_BAD_ARGS;
+    }
+    Datatree *instance = nullptr;
+    if (uint32_t bad = add_oper_instance(ctx, tree, &instance, at)) {
+        VMF_ERR(ctx, at, "Failed to process common path!");
+        return bad;
+    }
+    // On purpose: the path of the configuration model. No path with the prefix above equals it.
+    if (vmf_map_do_these_match(given.path, ZR_BGP_FOUR_BYTE_AS) != 0) {
+        if (given.result != nullptr) *given.result = instance;
+        return VMF_RC_OK;
+    }
+    const char *rest = given.path[prefix] != '\0' ? given.path + prefix + 1 : "";
+    return add_below(ctx, instance, rest, given);
+}
+
 extern "C" uint32_t vmf_map_zr_bgp_opr_add_path(MapContext *ctx, Datatree *tree, const char *path, const char *ns,
                                                 const char *value, const Datatree *operation_source, Datatree **result,
                                                 uint32_t repeat)
 {
     if (uint32_t bad = enter_service(ctx, here(), tree, path, ns)) return bad;
-    const PathAdd given = {path, ns, value, operation_source, result, repeat};
-    if (path[0] != '/') return log_end(ctx, add_relative(ctx, tree, given, here()));
-
-    constexpr size_t prefix = sizeof ZR_BGP_OPER_INSTANCE - 1;
-    if (std::strncmp(path, ZR_BGP_OPER_INSTANCE, prefix) != 0) {
-        VMF_ERR(ctx, here(), "The passed path is not BGP OPER common path! (%s)", path);
-        return log_end(ctx, VMF_RC_BAD_ARGS);
-    }
-    Datatree *instance = nullptr;
-    if (uint32_t bad = add_oper_instance(ctx, tree, &instance, here())) {
-        VMF_ERR(ctx, here(), "Failed to process common path!");
-        return log_end(ctx, bad);
-    }
-    // On purpose: the path of the configuration model. No path with the prefix above equals it.
-    if (vmf_map_do_these_match(path, ZR_BGP_FOUR_BYTE_AS) != 0) {
-        if (result != nullptr) *result = instance;
-        return log_end(ctx, VMF_RC_OK);
-    }
-    const char *rest = path[prefix] != '\0' ? path + prefix + 1 : "";
-    return log_end(ctx, add_below(ctx, instance, rest, given));
+    if (path[0] == '/')
+        return log_end(ctx, add_absolute(ctx, tree, {path, ns, value, operation_source, result, repeat}, here()));
+    VMF_TRC(ctx, here(), "Setting a relative path '%s' with '%s'", path, shown(value));
+    return log_end(ctx, vmf_map_datatree_add_path_common(ctx, tree, path, ns, value, operation_source, result, repeat));
 }
 
 static uint32_t add_by_namespace(MapContext *ctx, Datatree *tree, const char *path, const char *ns, const char *value,

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "frame.h"
+#include "vmf_map_types.h"
 
 // What a path is added with, as the callers of a builder gave it.
 struct PathAdd {
@@ -17,6 +17,3 @@ struct PathAdd {
 
 // Hands the add on to the platform, with `path` in the place of its own.
 [[nodiscard]] uint32_t add_below(MapContext *ctx, Datatree *parent, const char *path, const PathAdd &given);
-
-// A relative path hangs from an entry that stands already: no level above it is supplied.
-[[nodiscard]] uint32_t add_relative(MapContext *ctx, Datatree *parent, const PathAdd &given, const At &at);

@@ -7,8 +7,8 @@
 // Neither "Start" nor "End" here.
 static void assert_context(MapContext *ctx, const At &at = here())
 {
-    if (ctx == nullptr) assertion_failed(at, "NULL != ctx");
-    if (lies_at_null(&ctx->_debug_ctx)) assertion_failed(at, "NULL != (&((ctx)->_debug_ctx))");
+    if (ctx == nullptr) assertion_failed(at.file, at.line, "NULL != ctx");
+    if (lies_at_null(&ctx->_debug_ctx)) assertion_failed(at.file, at.line, "NULL != (&((ctx)->_debug_ctx))");
 }
 
 // What the walk made: the OpenConfig root is the first child of the holder. Null if it made nothing.
