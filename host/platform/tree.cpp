@@ -39,6 +39,20 @@ static std::atomic<bool> moves_arrays = false;
 
 void move_arrays_at_every_add(bool moves) { moves_arrays = moves; }
 
+// What a walk stands at moves along with its array. A handler whose add of a list entry failed goes on with the entry
+// before, and whatever was added beside that entry meanwhile may have moved it.
+static void take_entries_along(MapContext &walk, uintptr_t old_array, const Datatree &parent)
+{
+    const size_t size = static_cast<size_t>(parent.subtree_count) * sizeof(Datatree);
+    const auto take_along = [&](Datatree *&entry) {
+        const size_t offset = reinterpret_cast<uintptr_t>(entry) - old_array;
+        if (offset < size) entry = parent.subtrees + offset / sizeof(Datatree);
+    };
+    for (Datatree **entry : {&walk.list_node, &walk.af_node, &walk.oper_list_node, &walk.oper_af_node})
+        take_along(*entry);
+    if (walk.request != nullptr) take_along(walk.request->oper_af_matched);
+}
+
 // Gives the array a new block, with room for one child more.
 static bool move_array(Datatree &parent)
 {
@@ -57,7 +71,7 @@ static bool move_array(Datatree &parent)
 
 // Doubles the array, so that adding a child costs the same however many there are. What room there is, the block tells
 // and not the record: an array comes to a record without its capacity.
-static bool make_room(Datatree &parent)
+static bool grow_array(Datatree &parent)
 {
     if (moves_arrays.load(std::memory_order_relaxed) && parent.subtrees != nullptr) return move_array(parent);
     const auto count = static_cast<size_t>(parent.subtree_count);
@@ -72,11 +86,20 @@ static bool make_room(Datatree &parent)
     return true;
 }
 
-Datatree *append_child(Datatree &parent, const char *tag, const char *ns)
+static bool make_room(Datatree &parent, MapContext *walk)
+{
+    const auto old_array = reinterpret_cast<uintptr_t>(parent.subtrees);
+    if (!grow_array(parent)) return false;
+    const bool has_moved = reinterpret_cast<uintptr_t>(parent.subtrees) != old_array;
+    if (has_moved && walk != nullptr) take_entries_along(*walk, old_array, parent);
+    return true;
+}
+
+static Datatree *append(MapContext *walk, Datatree &parent, const char *tag, const char *ns)
 {
     if (!has(parent, VMF_DT_SUBTREES)) parent.subtrees = nullptr;
     if (parent.subtrees == nullptr || parent.subtree_count < 0) parent.subtree_count = 0;
-    if (!make_room(parent)) return nullptr;
+    if (!make_room(parent, walk)) return nullptr;
     if (ArrayIndex *index = head_of(parent.subtrees)->index) index->follow(parent.subtree_count, 1);
     parent.present[0] |= VMF_DT_SUBTREES;
     Datatree &child = parent.subtrees[parent.subtree_count++];
@@ -89,6 +112,8 @@ Datatree *append_child(Datatree &parent, const char *tag, const char *ns)
     }
     return &child;
 }
+
+Datatree *append_child(Datatree &parent, const char *tag, const char *ns) { return append(nullptr, parent, tag, ns); }
 
 bool set_value(Datatree &node, std::string_view value)
 {
@@ -211,17 +236,17 @@ static uint32_t done(const Operation &asked, const Added &added, Datatree **resu
     return VMF_RC_OK;
 }
 
-static Datatree *find_or_append(Datatree &parent, const ChildName &name)
+static Datatree *find_or_append(MapContext *walk, Datatree &parent, const ChildName &name)
 {
     Datatree *found = find_child(parent, name);
-    return found != nullptr ? found : append_child(parent, name.tag, name.ns);
+    return found != nullptr ? found : append(walk, parent, name.tag, name.ns);
 }
 
-static Datatree *find_or_append_entry(Datatree &parent, const ChildName &list, const char *key_tag,
+static Datatree *find_or_append_entry(MapContext *walk, Datatree &parent, const ChildName &list, const char *key_tag,
                                       const char *key_value)
 {
     if (Datatree *found = find_entry(parent, list, key_tag, key_value)) return found;
-    Datatree *entry = append_child(parent, list.tag, list.ns);
+    Datatree *entry = append(walk, parent, list.tag, list.ns);
     if (entry == nullptr) return nullptr;
     Datatree *key = append_child(*entry, key_tag, list.ns);
     if (key == nullptr || (key_value != nullptr && !set_value(*key, key_value))) {
@@ -235,6 +260,7 @@ static Datatree *find_or_append_entry(Datatree &parent, const ChildName &list, c
 // ---- Paths ----------------------------------------------------------------------------------
 
 struct Request {
+    MapContext *walk;
     const char *ns;
     const char *value;
     Source source;
@@ -250,12 +276,12 @@ static Added add_path(Datatree &root, const char *text, const Request &request)
     for (const PathElement &element : path.elements) {
         const ChildName name = {element.name, request.ns};
         if (element.key != nullptr) {
-            node = find_or_append_entry(*node, name, element.key, request.value);
+            node = find_or_append_entry(request.walk, *node, name, element.key, request.value);
             value_named_key = true;
         } else if (request.repeat && !value_named_key && &element == &path.elements.back()) {
-            node = append_child(*node, name.tag, name.ns);
+            node = append(request.walk, *node, name.tag, name.ns);
         } else {
-            node = find_or_append(*node, name);
+            node = find_or_append(request.walk, *node, name);
         }
         if (node == nullptr) return {VMF_RC_NO_MEMORY, nullptr};
         note_write(*node, request.source);
@@ -263,13 +289,14 @@ static Added add_path(Datatree &root, const char *text, const Request &request)
     return {give(*node, value_named_key ? nullptr : request.value, request.source), node};
 }
 
-static uint32_t add_path_operation(const char *operation, Datatree *parent, const char *path, const char *ns,
-                                   const char *value, const Datatree *source, Datatree **result, uint32_t repeat)
+static uint32_t add_path_operation(const char *operation, MapContext *walk, Datatree *parent, const char *path,
+                                   const char *ns, const char *value, const Datatree *source, Datatree **result,
+                                   uint32_t repeat)
 {
     const Operation asked = {operation, parent, path, ns, value, source, repeat};
     if (uint32_t failed = observed(asked)) return failed;
     if (parent == nullptr || path == nullptr) return VMF_RC_BAD_ARGS;
-    const Added added = add_path(*parent, path, {intern(ns), value, Source(source), repeat != 0});
+    const Added added = add_path(*parent, path, {walk, intern(ns), value, Source(source), repeat != 0});
     const bool selects = value == nullptr && source == nullptr && result == nullptr && repeat == 0;
     if (selects && added.node != nullptr) added.node->present[1] |= selected;
     return done(asked, added, result);
@@ -283,7 +310,7 @@ using namespace platform;
 
 extern "C" {
 
-uint32_t vmf_map_datatree_add_subtree(MapContext * /*ctx*/, Datatree *parent, const char *tag, const char *ns,
+uint32_t vmf_map_datatree_add_subtree(MapContext *ctx, Datatree *parent, const char *tag, const char *ns,
                                       const char *value, const Datatree *operation_source, Datatree **result,
                                       uint32_t flag)
 {
@@ -291,34 +318,35 @@ uint32_t vmf_map_datatree_add_subtree(MapContext * /*ctx*/, Datatree *parent, co
     if (uint32_t failed = observed(asked)) return failed;
     if (parent == nullptr || tag == nullptr) return VMF_RC_BAD_ARGS;
     const Source source(operation_source);
-    Datatree *node = find_or_append(*parent, {intern(tag), intern(ns)});
+    Datatree *node = find_or_append(ctx, *parent, {intern(tag), intern(ns)});
     if (node == nullptr) return VMF_RC_NO_MEMORY;
     note_write(*node, source);
     return done(asked, {give(*node, value, source), node}, result);
 }
 
-uint32_t vmf_map_datatree_add_path(MapContext * /*ctx*/, Datatree *parent, const char *path, const char *ns,
+uint32_t vmf_map_datatree_add_path(MapContext *ctx, Datatree *parent, const char *path, const char *ns,
                                    const char *value, const Datatree *operation_source, Datatree **result,
                                    uint32_t repeat)
 {
-    return add_path_operation("vmf_map_datatree_add_path", parent, path, ns, value, operation_source, result, repeat);
-}
-
-uint32_t vmf_map_datatree_add_path_common(MapContext * /*ctx*/, Datatree *parent, const char *path, const char *ns,
-                                          const char *value, const Datatree *operation_source, Datatree **result,
-                                          uint32_t repeat)
-{
-    return add_path_operation("vmf_map_datatree_add_path_common", parent, path, ns, value, operation_source, result,
+    return add_path_operation("vmf_map_datatree_add_path", ctx, parent, path, ns, value, operation_source, result,
                               repeat);
 }
 
-uint32_t vmf_map_datatree_add_list_node(MapContext * /*ctx*/, Datatree *parent, const char *list_tag, const char *ns,
+uint32_t vmf_map_datatree_add_path_common(MapContext *ctx, Datatree *parent, const char *path, const char *ns,
+                                          const char *value, const Datatree *operation_source, Datatree **result,
+                                          uint32_t repeat)
+{
+    return add_path_operation("vmf_map_datatree_add_path_common", ctx, parent, path, ns, value, operation_source,
+                              result, repeat);
+}
+
+uint32_t vmf_map_datatree_add_list_node(MapContext *ctx, Datatree *parent, const char *list_tag, const char *ns,
                                         const char *key_tag, const char *key_value, Datatree **result)
 {
     const Operation asked = {"vmf_map_datatree_add_list_node", parent, list_tag, ns, key_value, nullptr, 0};
     if (uint32_t failed = observed(asked)) return failed;
     if (parent == nullptr || list_tag == nullptr || key_tag == nullptr) return VMF_RC_BAD_ARGS;
-    Datatree *entry = find_or_append_entry(*parent, {intern(list_tag), intern(ns)}, intern(key_tag), key_value);
+    Datatree *entry = find_or_append_entry(ctx, *parent, {intern(list_tag), intern(ns)}, intern(key_tag), key_value);
     if (entry == nullptr) return VMF_RC_NO_MEMORY;
     return done(asked, {VMF_RC_OK, entry}, result);
 }
