@@ -43,6 +43,20 @@ static std::atomic<bool> moves_arrays = false;
 
 void move_arrays_at_every_add(bool moves) { moves_arrays = moves; }
 
+// What a walk stands at moves along with its array. A handler whose add of a list entry failed goes on with the entry
+// before, and whatever was added beside that entry meanwhile may have moved it.
+static void take_entries_along(MapContext &walk, uintptr_t old_array, const Datatree &parent)
+{
+    const size_t size = static_cast<size_t>(parent.subtree_count) * sizeof(Datatree);
+    const auto take_along = [&](Datatree *&entry) {
+        const size_t offset = reinterpret_cast<uintptr_t>(entry) - old_array;
+        if (offset < size) entry = parent.subtrees + offset / sizeof(Datatree);
+    };
+    for (Datatree **entry : {&walk.list_node, &walk.af_node, &walk.oper_list_node, &walk.oper_af_node})
+        take_along(*entry);
+    if (walk.request != nullptr) take_along(walk.request->oper_af_matched);
+}
+
 // Gives the array a new block, with room for one child more.
 static bool move_array(Datatree &parent)
 {
@@ -75,7 +89,7 @@ static Room &room_of(const Datatree &parent)
 
 // Doubles an array that is full, so that adding a child costs the same however many there are. What room there is, the
 // block tells and not the record: an array comes to a record without its capacity.
-static bool make_room(Datatree &parent, const Room &room)
+static bool grow_array(Datatree &parent, const Room &room)
 {
     if (moves_arrays.load(std::memory_order_relaxed) && parent.subtrees != nullptr) return move_array(parent);
     constexpr size_t least = 2;
@@ -92,28 +106,41 @@ static bool make_room(Datatree &parent, const Room &room)
     return true;
 }
 
-static Datatree *append(Datatree &parent, const char *tag, const char *ns, uint8_t marks)
+static bool make_room(MapContext *walk, Datatree &parent, const Room &room)
+{
+    const auto old_array = reinterpret_cast<uintptr_t>(parent.subtrees);
+    if (!grow_array(parent, room)) return false;
+    const bool has_moved = reinterpret_cast<uintptr_t>(parent.subtrees) != old_array;
+    if (has_moved && walk != nullptr) take_entries_along(*walk, old_array, parent);
+    return true;
+}
+
+// `walk` is the run of the mapping that adds, if one does.
+static Datatree *append(MapContext *walk, Datatree &parent, ChildName name, uint8_t marks)
 {
     if (!has(parent, VMF_DT_SUBTREES)) parent.subtrees = nullptr;
     if (parent.subtrees == nullptr || parent.subtree_count < 0) parent.subtree_count = 0;
     Room &room = room_of(parent);
-    if (!make_room(parent, room)) return nullptr;
+    if (!make_room(walk, parent, room)) return nullptr;
     if (ArrayIndex *index = head_of(parent.subtrees)->index) index->follow(parent.subtree_count, 1);
     parent.present[0] |= VMF_DT_SUBTREES;
     Datatree &child = parent.subtrees[parent.subtree_count++];
     room.count = static_cast<uint32_t>(parent.subtree_count);
     child = {};
-    child.tag = const_cast<char *>(tag);
+    child.tag = const_cast<char *>(name.tag);
     child.present[0] = VMF_DT_TAG;
     child.present[1] = marks;
-    if (ns != nullptr) {
-        child.namespace_ = const_cast<char *>(ns);
+    if (name.ns != nullptr) {
+        child.namespace_ = const_cast<char *>(name.ns);
         child.present[0] |= VMF_DT_NAMESPACE;
     }
     return &child;
 }
 
-Datatree *append_child(Datatree &parent, const char *tag, const char *ns) { return append(parent, tag, ns, 0); }
+Datatree *append_child(Datatree &parent, const char *tag, const char *ns)
+{
+    return append(nullptr, parent, {tag, ns}, 0);
+}
 
 bool set_value(Datatree &node, std::string_view value)
 {
@@ -245,23 +272,24 @@ static uint32_t done(const MakeOperation &asked, const Added &added, Datatree **
     return VMF_RC_OK;
 }
 
-static Datatree *append_named(Datatree &parent, ChildName name)
+static Datatree *append_named(MapContext *walk, Datatree &parent, ChildName name)
 {
-    return append(parent, name.tag, name.ns, named_by_table);
+    return append(walk, parent, name, named_by_table);
 }
 
-static Datatree *find_or_append(Datatree &parent, ChildName name)
+static Datatree *find_or_append(MapContext *walk, Datatree &parent, ChildName name)
 {
     Datatree *found = find_child(parent, name);
-    return found != nullptr ? found : append_named(parent, name);
+    return found != nullptr ? found : append_named(walk, parent, name);
 }
 
-static Datatree *find_or_append_entry(Datatree &parent, ChildName list, const char *key_tag, const char *key_value)
+static Datatree *find_or_append_entry(MapContext *walk, Datatree &parent, ChildName list, const char *key_tag,
+                                      const char *key_value)
 {
     if (Datatree *found = find_entry(parent, list, key_tag, key_value)) return found;
-    Datatree *entry = append_named(parent, list);
+    Datatree *entry = append_named(walk, parent, list);
     if (entry == nullptr) return nullptr;
-    Datatree *key = append_named(*entry, {key_tag, list.ns});
+    Datatree *key = append_named(walk, *entry, {key_tag, list.ns});
     if (key == nullptr || (key_value != nullptr && !set_value(*key, key_value))) {
         release(*entry);  // the last record of the array
         parent.subtree_count--;
@@ -273,6 +301,7 @@ static Datatree *find_or_append_entry(Datatree &parent, ChildName list, const ch
 // ---- Paths ----------------------------------------------------------------------------------
 
 struct Request {
+    MapContext *walk;
     const char *ns;
     const char *value;
     Source source;
@@ -288,12 +317,12 @@ static Added add_path(Datatree &root, const char *text, const Request &request)
     for (const PathElement &element : path.elements) {
         const ChildName name = {element.name, request.ns};
         if (element.key != nullptr) {
-            node = find_or_append_entry(*node, name, element.key, request.value);
+            node = find_or_append_entry(request.walk, *node, name, element.key, request.value);
             value_named_key = true;
         } else if (request.repeat && !value_named_key && &element == &path.elements.back()) {
-            node = append_named(*node, name);
+            node = append_named(request.walk, *node, name);
         } else {
-            node = find_or_append(*node, name);
+            node = find_or_append(request.walk, *node, name);
         }
         if (node == nullptr) return {VMF_RC_NO_MEMORY, nullptr};
         note_write(*node, request.source);
@@ -301,13 +330,14 @@ static Added add_path(Datatree &root, const char *text, const Request &request)
     return {give(*node, value_named_key ? nullptr : request.value, request.source), node};
 }
 
-static uint32_t add_path_operation(const char *operation, Datatree *parent, const char *path, const char *ns,
-                                   const char *value, const Datatree *source, Datatree **result, uint32_t repeat)
+static uint32_t add_path_operation(const char *operation, MapContext *walk, Datatree *parent, const char *path,
+                                   const char *ns, const char *value, const Datatree *source, Datatree **result,
+                                   uint32_t repeat)
 {
     const auto asked = [&] { return Operation{operation, parent, path, ns, value, source, repeat}; };
     if (uint32_t failed = observed(asked)) return failed;
     if (parent == nullptr || path == nullptr) return VMF_RC_BAD_ARGS;
-    const Added added = add_path(*parent, path, {intern(ns), value, Source(source), repeat != 0});
+    const Added added = add_path(*parent, path, {walk, intern(ns), value, Source(source), repeat != 0});
     const bool selects = value == nullptr && source == nullptr && result == nullptr && repeat == 0;
     if (selects && added.node != nullptr) added.node->present[1] |= selected;
     return done(asked, added, result);
@@ -321,7 +351,7 @@ using namespace platform;
 
 extern "C" {
 
-uint32_t vmf_map_datatree_add_subtree(MapContext * /*ctx*/, Datatree *parent, const char *tag, const char *ns,
+uint32_t vmf_map_datatree_add_subtree(MapContext *ctx, Datatree *parent, const char *tag, const char *ns,
                                       const char *value, const Datatree *operation_source, Datatree **result,
                                       uint32_t flag)
 {
@@ -331,28 +361,29 @@ uint32_t vmf_map_datatree_add_subtree(MapContext * /*ctx*/, Datatree *parent, co
     if (uint32_t failed = observed(asked)) return failed;
     if (parent == nullptr || tag == nullptr) return VMF_RC_BAD_ARGS;
     const Source source(operation_source);
-    Datatree *node = find_or_append(*parent, {intern(tag), intern(ns)});
+    Datatree *node = find_or_append(ctx, *parent, {intern(tag), intern(ns)});
     if (node == nullptr) return VMF_RC_NO_MEMORY;
     note_write(*node, source);
     return done(asked, {give(*node, value, source), node}, result);
 }
 
-uint32_t vmf_map_datatree_add_path(MapContext * /*ctx*/, Datatree *parent, const char *path, const char *ns,
+uint32_t vmf_map_datatree_add_path(MapContext *ctx, Datatree *parent, const char *path, const char *ns,
                                    const char *value, const Datatree *operation_source, Datatree **result,
                                    uint32_t repeat)
 {
-    return add_path_operation("vmf_map_datatree_add_path", parent, path, ns, value, operation_source, result, repeat);
-}
-
-uint32_t vmf_map_datatree_add_path_common(MapContext * /*ctx*/, Datatree *parent, const char *path, const char *ns,
-                                          const char *value, const Datatree *operation_source, Datatree **result,
-                                          uint32_t repeat)
-{
-    return add_path_operation("vmf_map_datatree_add_path_common", parent, path, ns, value, operation_source, result,
+    return add_path_operation("vmf_map_datatree_add_path", ctx, parent, path, ns, value, operation_source, result,
                               repeat);
 }
 
-uint32_t vmf_map_datatree_add_list_node(MapContext * /*ctx*/, Datatree *parent, const char *list_tag, const char *ns,
+uint32_t vmf_map_datatree_add_path_common(MapContext *ctx, Datatree *parent, const char *path, const char *ns,
+                                          const char *value, const Datatree *operation_source, Datatree **result,
+                                          uint32_t repeat)
+{
+    return add_path_operation("vmf_map_datatree_add_path_common", ctx, parent, path, ns, value, operation_source,
+                              result, repeat);
+}
+
+uint32_t vmf_map_datatree_add_list_node(MapContext *ctx, Datatree *parent, const char *list_tag, const char *ns,
                                         const char *key_tag, const char *key_value, Datatree **result)
 {
     const auto asked = [&] {
@@ -360,7 +391,7 @@ uint32_t vmf_map_datatree_add_list_node(MapContext * /*ctx*/, Datatree *parent, 
     };
     if (uint32_t failed = observed(asked)) return failed;
     if (parent == nullptr || list_tag == nullptr || key_tag == nullptr) return VMF_RC_BAD_ARGS;
-    Datatree *entry = find_or_append_entry(*parent, {intern(list_tag), intern(ns)}, intern(key_tag), key_value);
+    Datatree *entry = find_or_append_entry(ctx, *parent, {intern(list_tag), intern(ns)}, intern(key_tag), key_value);
     if (entry == nullptr) return VMF_RC_NO_MEMORY;
     return done(asked, {VMF_RC_OK, entry}, result);
 }

@@ -29,6 +29,12 @@ std::span<Datatree> children_of(const Datatree &node);
 // is no memory. The child is valid until the next child is added to the same parent.
 Datatree *append_child(Datatree &parent, const char *tag, const char *ns);
 
+// The adds of vmf_map_platform.h move an array too, and with it the entries of lists that the walk at hand stands at:
+// `list_node`, `af_node` and their operational twins in the MapContext, and `oper_af_matched` in its RequestContext. A
+// handler whose add of an entry failed goes on with the entry of before, and that may have moved since, when another
+// handler added beside it; so what follows still goes into that entry, wherever it lies now. Whatever else holds a node
+// across an add under its parent, holds it no longer.
+
 // Lets every add move its parent's array of children, and spoils and releases the old one, for all threads: a test
 // finds whoever holds a child across an add that may move it.
 void move_arrays_at_every_add(bool moves);

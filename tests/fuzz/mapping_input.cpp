@@ -29,17 +29,22 @@ std::vector<platform::DatabaseRecord> AnyDatabase::find(std::string_view pattern
     return found;
 }
 
-FailingOperations::FailingOperations(uint32_t number) : left_(number), observer_{before, this}
+FailingOperations::FailingOperations(const TreeInput &input)
+    : left_(input.word("fail")), once_(input.word("once") != 0), observer_{before, this}
 {
-    if (number != 0) platform::observe(&observer_);
+    if (left_ != 0) platform::observe(&observer_);
 }
 
 uint32_t FailingOperations::before(void *self, const platform::Operation & /*operation*/)
 {
     auto &failing = *static_cast<FailingOperations *>(self);
-    if (failing.left_ <= 1) return outcome;
-    failing.left_--;
-    return 0;
+    if (failing.left_ > 1) {
+        failing.left_--;
+        return 0;
+    }
+    const bool fails = failing.left_ == 1;
+    if (failing.once_) failing.left_ = 0;
+    return fails ? outcome : 0;
 }
 
 constexpr uint32_t all_families = 0xFFF;

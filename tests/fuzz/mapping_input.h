@@ -4,6 +4,7 @@
 #include "contexts.h"
 #include "observer.h"
 #include "system_database.h"
+#include "tree.h"
 #include "tree_input.h"
 
 namespace fuzz {
@@ -19,12 +20,11 @@ private:
     uint32_t as_;
 };
 
-// Lets operations fail from that number on, as when memory runs out; 0: none. Some handlers go on with the entry of
-// before when theirs was not added, which may have moved: that is no input of a request, and nothing to search for
-// here.
+// Lets operations fail from the one of the number "fail" on, as when memory runs out, or that one alone if "once" says
+// so; 0: none.
 class FailingOperations {
 public:
-    explicit FailingOperations(uint32_t number);
+    explicit FailingOperations(const TreeInput &input);
     ~FailingOperations() { platform::observe(nullptr); }
     FailingOperations(const FailingOperations &) = delete;
     FailingOperations &operator=(const FailingOperations &) = delete;
@@ -35,7 +35,17 @@ private:
     static uint32_t before(void *self, const platform::Operation &operation);
 
     uint32_t left_;
+    bool once_;
     platform::Observer observer_;
+};
+
+// Moves every array of children that something is added to.
+class MovingArrays {
+public:
+    explicit MovingArrays(bool moves) { platform::move_arrays_at_every_add(moves); }
+    ~MovingArrays() { platform::move_arrays_at_every_add(false); }
+    MovingArrays(const MovingArrays &) = delete;
+    MovingArrays &operator=(const MovingArrays &) = delete;
 };
 
 struct Word {

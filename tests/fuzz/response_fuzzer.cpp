@@ -16,7 +16,8 @@ namespace {
 
 Choice make_choice()
 {
-    Choice made = {{Model::cfg, Model::cfg, Model::oper}, {"kind", "kind", "response_pending", "fail", "both"}};
+    Choice made = {{Model::cfg, Model::cfg, Model::oper},
+                   {"kind", "kind", "response_pending", "fail", "once", "moves", "both"}};
     for (const Word &word : request_words) made.words.push_back(word.name);
     return made;
 }
@@ -30,7 +31,8 @@ struct Run {
         for (const Word &word : request_words)
             contexts.request.*word.member = input.word(word.name) > word.largest ? word.largest : input.word(word.name);
         framework::Response response(contexts, build(input.lines));
-        const FailingOperations failing(input.word("fail"));
+        const FailingOperations failing(input);
+        const MovingArrays moving(!is_traced && input.word("moves") != 0);
         outcome = response.map_configuration();
         if (outcome == VMF_RC_OK && (contexts.request.oper_wanted != 0 || input.word("both") != 0))
             outcome = response.map_operational();

@@ -57,7 +57,10 @@ Line read_line(std::string_view text)
         const std::string_view word = take_until(text, ' ');
         if (word.size() < 2) continue;
         switch (word[0]) {
-        case '[': line.operation = number(word.substr(1, word.size() - 2)); break;
+        case '[':
+            line.operation = number(word.substr(1, word.size() - 2));
+            if (line.operation > VMF_OP_REMOVE) line.operation.reset();
+            break;
         case '{': line.ns = word[1]; break;
         case '<': line.data_ns = word[1]; break;
         case '!': line.shape = word.substr(1); break;

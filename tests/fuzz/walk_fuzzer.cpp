@@ -14,7 +14,7 @@
 namespace fuzz {
 namespace {
 
-const Choice choice = {{Model::openconfig}, {"kind", "items", "as", "fail"}};
+const Choice choice = {{Model::openconfig}, {"kind", "items", "as", "fail", "once", "moves"}};
 
 // ---- What the tree of tags refuses ----------------------------------------------------------
 
@@ -94,7 +94,8 @@ struct Run {
           contexts(input.word("kind", 1), database, connected(is_traced))
     {
         MapContext run = contexts.fresh_run();
-        const FailingOperations failing(input.word("fail"));
+        const FailingOperations failing(input);
+        const MovingArrays moving(!is_traced && input.word("moves") != 0);
         const auto trees = platform::children_of(request.root());
         outcome = vmf_map_oc_bgp(&run, trees.empty() ? nullptr : trees.data(), &native.root());
     }

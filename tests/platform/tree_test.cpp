@@ -225,6 +225,39 @@ TEST_F(AddDataNs, RefusesAPathThatBeginsElsewhere)
     EXPECT_EQ(text_of(tree), text);
 }
 
+// ---- Arrays that move -----------------------------------------------------------------------
+
+// A handler whose add has failed goes on with the entry of before.
+TEST(MovedArray, TakesTheEntriesOfTheWalkAlong)
+{
+    for (const bool moves : {false, true}) {
+        platform::move_arrays_at_every_add(moves);
+        platform::Tree tree = io::read_tree("a zr-cfg\nb zr-cfg\nc zr-cfg\nd zr-cfg\n");
+        platform::Tree other = io::read_tree("e zr-cfg\n");
+        RequestContext request = {};
+        MapContext walk = {};
+        walk.request = &request;
+        const auto child = [](const platform::Tree &of, size_t at) { return &platform::children_of(of.root())[at]; };
+        walk.list_node = child(tree, 0);
+        walk.oper_list_node = child(tree, 1);
+        request.oper_af_matched = child(tree, 3);
+        Datatree *elsewhere = walk.af_node = child(other, 0);
+
+        const Datatree *before = tree.root().subtrees;
+        while (platform::children_of(tree.root()).size() < 100) {
+            ASSERT_EQ(vmf_map_datatree_add_path(&walk, &tree.root(), "f", ZR_BGP_CFG_NS, nullptr, nullptr, nullptr, 1),
+                      VMF_RC_OK);
+        }
+        EXPECT_NE(tree.root().subtrees, before);
+        EXPECT_EQ(walk.list_node, child(tree, 0));
+        EXPECT_EQ(walk.oper_list_node, child(tree, 1));
+        EXPECT_EQ(request.oper_af_matched, child(tree, 3));
+        EXPECT_EQ(walk.af_node, elsewhere);
+        EXPECT_EQ(walk.oper_af_node, nullptr);
+        platform::move_arrays_at_every_add(false);
+    }
+}
+
 // ---- vmf_map_get_subtrees -------------------------------------------------------------------
 
 class GetSubtrees : public testing::Test {

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <nlohmann/json.hpp>
 #include <set>
+#include <tuple>
 #include <utility>
 
 #include "cases.h"
@@ -65,9 +66,9 @@ void add_trips(std::vector<Exchange> &all)
         for (const trips::Step &step : trip.steps) {
             const std::string name = trip.name + ", line " + std::to_string(step.line);
             if (step.verb == "edit") all.push_back(exchange(name, VMF_REQ_EDIT, trips::nodes_of_edit(step)));
-            if (step.verb == "get") all.push_back(exchange(name, VMF_REQ_GET, nodes_at(trips::paths_of_read(step))));
+            if (step.verb == "get") all.push_back(exchange(name, VMF_REQ_GET, trips::nodes_of_read(step)));
             if (step.verb == "get-config")
-                all.push_back(exchange(name, VMF_REQ_GET_CONFIG, nodes_at(trips::paths_of_read(step))));
+                all.push_back(exchange(name, VMF_REQ_GET_CONFIG, trips::nodes_of_read(step)));
         }
     }
 }
@@ -92,6 +93,27 @@ void add_configurations(std::vector<Exchange> &all)
     properties::Generator generator(1);
     for (int i = 0; i < 10; i++)
         all.push_back(exchange("configuration " + std::to_string(i), VMF_REQ_EDIT, generator.configuration()));
+}
+
+// Families are entered on both sides of a node that adds to all of them.
+void add_families_apart(std::vector<Exchange> &all)
+{
+    const std::string reflector = "\n      route-reflector [delete]";
+    const std::tuple<std::string, std::string, std::string> places[] = {
+        {"global", "", "\n    use-multiple-paths\n      ibgp [delete]"},
+        {"neighbors", "\n    neighbor\n      neighbor-address = 10.0.0.1", reflector},
+        {"peer-groups", "\n    peer-group\n      peer-group-name = spine", reflector},
+    };
+    for (const auto &[place, entry, between] : places) {
+        const std::string indent = entry.empty() ? "\n    " : "\n      ";
+        const auto family = [&indent](const char *name) {
+            return indent + "afi-safis" + indent + "  afi-safi" + indent + "    afi-safi-name = bgp-types:" + name;
+        };
+        const std::string request = "bgp oc-bgp\n  " + place + entry + family("IPV4_UNICAST") + between +
+                                    family("L3VPN_IPV4_UNICAST") + indent + "    config" + family("IPV6_UNICAST");
+        for (const uint32_t kind : {VMF_REQ_EDIT, VMF_REQ_GET})
+            all.push_back({"families apart, " + place, kind, request, {}, 1, known_as()});
+    }
 }
 
 // ---- The router that answers ----------------------------------------------------------------
@@ -175,6 +197,7 @@ const std::vector<Exchange> &golden_set()
         add_trips(*all);
         add_every_node(*all);
         add_configurations(*all);
+        add_families_apart(*all);
         keep_first_of_each(*all);
         add_responses(*all);
         add_whole_responses(*all);
