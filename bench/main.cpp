@@ -5,13 +5,13 @@
 // `us` is CPU time of the work, in microseconds a neighbor. `heap_bytes` is what the heap holds of the target at its
 // peak, bytes a neighbor, if heap.cpp is preloaded, and null otherwise.
 #include <dlfcn.h>
-#include <time.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <string>
 
+#include "clock.h"
 #include "heap.h"
 #include "peer.h"
 
@@ -24,13 +24,6 @@ extern "C" void bench_work(bench::Peer &peer)
 }
 
 namespace {
-
-double cpu_seconds()
-{
-    timespec now;
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
 
 const bench::PeerKind *find(const char *name)
 {
@@ -61,9 +54,9 @@ int main(int argc, char **argv)
     bench_heap_figures held = {};
     if (heap != nullptr) heap(&held);
     const size_t bytes_before = held.now;
-    const double before = cpu_seconds();
+    const double before = bench::cpu_seconds();
     bench_work(*peer);
-    const double seconds = cpu_seconds() - before;
+    const double seconds = bench::cpu_seconds() - before;
     if (heap != nullptr) heap(&held);
 
     if (argc == 5 && std::strcmp(argv[4], "--tree") == 0) std::fputs(peer->text().c_str(), stdout);
