@@ -9,9 +9,10 @@ export CTEST_PARALLEL_LEVEL ?= $(JOBS)
 run_packages := g++ cmake ninja-build pkg-config ccache libxml2-dev nlohmann-json3-dev libcli11-dev \
 	libyang2-dev
 test_packages := $(run_packages) clang clang-format clang-tidy libclang-rt-14-dev binutils git \
-	libgtest-dev libyang2-tools
+	libgtest-dev libyang2-tools \
+	libxslt1-dev valgrind python3
 
-.PHONY: run test fuzz format format-check tidy generate test-release test-sanitize test-thread clean
+.PHONY: run test fuzz bench format format-check tidy generate test-release test-sanitize test-thread clean
 
 run:
 	scripts/install-packages $(run_packages)
@@ -43,6 +44,15 @@ fuzz:
 	cd build/sanitize && ls bin | sed -n 's/^fuzz_//p' | xargs -P $(JOBS) -I NAME sh -c \
 		'$(CURDIR)/scripts/fuzz bin/fuzz_NAME $(FUZZ_SECONDS) fuzz/NAME > fuzz_NAME.log 2>&1 || \
 		{ tail -n 40 fuzz_NAME.log; exit 1; }; tail -n 6 fuzz_NAME.log'
+
+# Measures the library beside its peers and writes docs/performance.md. Times need a quiet machine; it takes some 20
+# minutes.
+BENCH_ROUNDS ?= 5
+bench:
+	scripts/install-packages $(test_packages)
+	cmake --preset release
+	cmake --build --preset release -j $(JOBS) --target bench
+	bench/run.py --build build/release --rounds $(BENCH_ROUNDS)
 
 format-check:
 	clang-format --dry-run -Werror $(SOURCES)

@@ -1,7 +1,9 @@
 #include "heap.h"
 
-#include <dlfcn.h>
 #include <malloc.h>
+#include <sys/mman.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <cstdlib>
@@ -21,12 +23,17 @@ std::atomic<size_t> peak = 0;
 
 size_t size_of(void *block) { return block != nullptr ? malloc_usable_size(block) + sizeof(size_t) : 0; }
 
-void *taken(void *block)
+void hold(size_t bytes)
 {
-    const size_t held = now += size_of(block);
+    const size_t held = now += bytes;
     size_t highest = peak;
     while (held > highest && !peak.compare_exchange_weak(highest, held)) {
     }
+}
+
+void *taken(void *block)
+{
+    hold(size_of(block));
     return block;
 }
 
@@ -61,6 +68,20 @@ int posix_memalign(void **block, size_t alignment, size_t size)
 {
     *block = memalign(alignment, size);
     return *block != nullptr ? 0 : 12;
+}
+
+// What a program maps for itself; malloc's own mappings do not come by here.
+void *mmap(void *at, size_t size, int protection, int flags, int file, off_t offset)
+{
+    void *mapped = reinterpret_cast<void *>(syscall(SYS_mmap, at, size, protection, flags, file, offset));
+    if (mapped != MAP_FAILED && (flags & MAP_ANONYMOUS) != 0) hold(size);
+    return mapped;
+}
+
+int munmap(void *mapped, size_t size)
+{
+    now -= size;
+    return static_cast<int>(syscall(SYS_munmap, mapped, size));
 }
 
 void free(void *block)

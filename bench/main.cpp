@@ -3,17 +3,15 @@
 //   bench_peer PEER forward|back NEIGHBORS [--tree]
 //
 // `us` is CPU time of the work, in microseconds a neighbor. `heap_bytes` is what the heap holds of the target at its
-// peak, bytes a neighbor, if heap.cpp is preloaded, and null otherwise; `rss_bytes` how much larger than before the
-// work the process became.
+// peak, bytes a neighbor, if heap.cpp is preloaded, and null otherwise.
 #include <dlfcn.h>
-#include <sys/resource.h>
-#include <time.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <string>
 
+#include "clock.h"
 #include "heap.h"
 #include "peer.h"
 
@@ -26,20 +24,6 @@ extern "C" void bench_work(bench::Peer &peer)
 }
 
 namespace {
-
-double cpu_seconds()
-{
-    timespec now;
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
-
-size_t peak_rss()
-{
-    rusage usage;
-    getrusage(RUSAGE_SELF, &usage);
-    return static_cast<size_t>(usage.ru_maxrss) * 1024;
-}
 
 const bench::PeerKind *find(const char *name)
 {
@@ -70,12 +54,10 @@ int main(int argc, char **argv)
     bench_heap_figures held = {};
     if (heap != nullptr) heap(&held);
     const size_t bytes_before = held.now;
-    const size_t rss_before = peak_rss();
-    const double before = cpu_seconds();
+    const double before = bench::cpu_seconds();
     bench_work(*peer);
-    const double seconds = cpu_seconds() - before;
+    const double seconds = bench::cpu_seconds() - before;
     if (heap != nullptr) heap(&held);
-    const size_t rss_after = peak_rss();
 
     if (argc == 5 && std::strcmp(argv[4], "--tree") == 0) std::fputs(peer->text().c_str(), stdout);
     const auto neighbors = static_cast<double>(count);
@@ -83,10 +65,9 @@ int main(int argc, char **argv)
                 seconds * 1e6 / neighbors);
     std::printf("\"nodes_in\": %zu, \"nodes_out\": %zu, ", peer->nodes_in() / count, peer->nodes_out() / count);
     if (heap != nullptr)
-        std::printf("\"heap_bytes\": %.1f, ", static_cast<double>(held.peak - bytes_before) / neighbors);
+        std::printf("\"heap_bytes\": %.1f}\n", static_cast<double>(held.peak - bytes_before) / neighbors);
     else
-        std::printf("\"heap_bytes\": null, ");
-    std::printf("\"rss_bytes\": %.1f}\n", static_cast<double>(rss_after - rss_before) / neighbors);
+        std::printf("\"heap_bytes\": null}\n");
     std::fflush(stdout);
     std::_Exit(0);  // nothing is freed
 }

@@ -8,7 +8,7 @@
 
 namespace bench {
 
-// An edit of so many neighbors: 54 nodes each.
+// An edit's `bgp` with so many neighbors of 54 nodes.
 platform::Tree openconfig_neighbors(size_t count);
 
 // What the router then says of them: 51 nodes each, without the removals that an edit holds.

@@ -14,14 +14,17 @@ void append_line(std::string &text, size_t depth, const char *tag, const char *v
     text += '\n';
 }
 
+std::string value_of(const Datatree &node)
+{
+    const std::string value = platform::value_of(node) != nullptr ? platform::value_of(node) : "";
+    const char *ns = platform::data_namespace_of(node);
+    if (ns == nullptr) return value;
+    return (std::strcmp(ns, OC_BGP_TYPES_NS) == 0 ? "openconfig-bgp-types:" : "?:") + value;
+}
+
 static void append(std::string &text, const Datatree &node, size_t depth)
 {
-    std::string value = platform::value_of(node) != nullptr ? platform::value_of(node) : "";
-    if (platform::data_namespace_of(node) != nullptr) {
-        const bool known = std::strcmp(platform::data_namespace_of(node), OC_BGP_TYPES_NS) == 0;
-        value.insert(0, known ? "openconfig-bgp-types:" : "?:");
-    }
-    append_line(text, depth, platform::tag_of(node), value.c_str());
+    append_line(text, depth, platform::tag_of(node), value_of(node).c_str());
     for (const Datatree &child : platform::children_of(node)) append(text, child, depth + 1);
 }
 
