@@ -76,9 +76,10 @@ Described describe(const CLI::App &app)
 
 std::vector<Described> commands_of(const CLI::App &app)
 {
+    const std::vector<const CLI::App *> all = app.get_subcommands([](const CLI::App *) { return true; });
     std::vector<Described> commands;
-    for (const CLI::App *command : app.get_subcommands([](const CLI::App *) { return true; }))
-        commands.push_back(describe(*command));
+    commands.reserve(all.size());
+    for (const CLI::App *command : all) commands.push_back(describe(*command));
     return commands;
 }
 
@@ -202,7 +203,10 @@ void write_zsh_arguments(std::ostream &out, const Described &described, const ch
     for (const Argument &option : described.options) {
         const std::string excluded = "(" + joined(option.names, " ") + ")";
         const std::string rest = "[" + escaped(option.help, "[]:\\", "\\") + "]" + zsh_completes(option);
-        for (const std::string &name : option.names) out << " \\\n" << indent << quoted(excluded + name + rest);
+        for (const std::string &name : option.names) {
+            std::string whole = excluded;
+            out << " \\\n" << indent << quoted(whole.append(name).append(rest));
+        }
     }
     for (size_t i = 0; i < described.positionals.size(); i++)
         out << " \\\n" << indent << quoted(std::to_string(i + 1) + zsh_completes(described.positionals[i]));
