@@ -10,9 +10,10 @@ run_packages := g++ cmake ninja-build pkg-config ccache libxml2-dev nlohmann-jso
 	libyang2-dev
 test_packages := $(run_packages) clang clang-format clang-tidy libclang-rt-14-dev binutils git \
 	libgtest-dev libyang2-tools \
-	libxslt1-dev valgrind python3
+	libxslt1-dev valgrind python3 \
+	abigail-tools dpkg-dev fakeroot file fish man-db mandoc zsh
 
-.PHONY: run test fuzz bench format format-check tidy generate test-release test-sanitize test-thread clean
+.PHONY: run test fuzz bench abi-baseline format format-check tidy generate test-release test-sanitize test-thread clean
 
 run:
 	scripts/install-packages $(run_packages)
@@ -68,6 +69,13 @@ tidy:
 generate:
 	cmake --preset release
 	cmake --build --preset release --target generate
+
+# After a change of the library's interface that is meant: CHANGELOG.md says it, and the version goes by it.
+abi-baseline:
+	scripts/install-packages $(test_packages)
+	cmake --preset release
+	cmake --build --preset release -j $(JOBS) --target vmf_map_oc_bgp
+	scripts/abi write build/release/lib/libvmf_map_oc_bgp.so
 
 clean:
 	rm -rf build

@@ -56,7 +56,8 @@ std::string write_exports(const std::vector<Model> &trees, const std::vector<std
     std::ostringstream out;
     out << "# Made by generator/ from the models and mapping tables in models/ and from generator/services.txt.\n"
            "# Renew it with `cmake --build build/release --target generate`.\n"
-           "# All that the library exports, and nothing else.\n{\nglobal:\n    # services\n";
+           "# All that the library exports, and nothing else, in the node that the build names after the version.\n"
+           "@VMF_MAP_SYMBOL_VERSION@ {\nglobal:\n    # services\n";
     for (const std::string &name : services) out << "    " << name << ";\n";
     out << "\n    # walkers\n";
     for (const Model &nodes : trees)

@@ -8,6 +8,7 @@
 #include <map>
 #include <new>
 
+#include "completion.h"
 #include "edit.h"
 #include "exit_codes.h"
 #include "get.h"
@@ -221,6 +222,7 @@ void add_store_commands(Commands &commands, Options &options)
             "WHAT", [&options](const std::string &text) { options.what = read_store(text); },
             "running, candidate or operational")
         ->required()
+        ->type_name("running|candidate|operational")
         ->option_text(" ");
     add_format(show, options.format, "tree");
     add_secrets(show, router.secrets);
@@ -250,6 +252,10 @@ int run(int argc, char **argv)
     CLI::App app("OpenConfig BGP for a router that speaks its own model");
     app.set_version_flag("--version", "ocbgp " OCBGP_VERSION);
     app.require_subcommand(0, 1);
+    std::string shell;
+    app.add_option("--completion", shell, "print the completion of this command for a shell")
+        ->check(CLI::IsMember({"bash", "zsh", "fish"}))
+        ->group("");  // for the build
     app.footer(std::string("Example:\n  ocbgp translate examples/global-edit.xml\n\n") + exit_code_help);
 
     Options options;
@@ -264,6 +270,10 @@ int run(int argc, char **argv)
         if (error.get_exit_code() == 0) return app.exit(error);  // --help, --version
         std::cerr << "ocbgp: " << error.what() << "\nRun with --help for more information.\n";
         return cli::exit_usage;
+    }
+    if (!shell.empty()) {
+        std::cout << cli::completion_script(app, shell);
+        return cli::exit_ok;
     }
     if (app.get_subcommands().empty()) {
         std::cerr << "ocbgp: a command is required; see ocbgp --help\n";

@@ -12,6 +12,7 @@ namespace {
 struct Symbol {
     std::string address;
     char type;
+    std::string version;
 };
 using Symbols = std::map<std::string, Symbol>;
 
@@ -20,19 +21,27 @@ struct SymbolTable {
     std::set<std::string> undefined;  // but for those with a version, which are the C and C++ libraries'
 };
 
+std::string output_of(const std::string &command)
+{
+    const std::unique_ptr<FILE, int (*)(FILE *)> out(popen(command.c_str(), "r"), pclose);
+    std::string text;
+    char part[4096];
+    while (size_t count = std::fread(part, 1, sizeof part, out.get())) text.append(part, count);
+    return text;
+}
+
 SymbolTable symbols_of(const std::string &library)
 {
     SymbolTable table;
-    const std::string command = std::string(NM) + " -D " + library;
-    const std::unique_ptr<FILE, int (*)(FILE *)> out(popen(command.c_str(), "r"), pclose);
-    char line[1024];
-    while (std::fgets(line, sizeof line, out.get()) != nullptr) {
+    std::istringstream lines(output_of(std::string(NM) + " -D " + library));
+    for (std::string line; std::getline(lines, line);) {
         std::istringstream fields(line);
         std::string address, type, name;
         if (line[0] != ' ') fields >> address;
         fields >> type >> name;
-        if (!address.empty())
-            table.defined[name] = {address, type[0]};
+        const size_t at = name.find("@@");    // one "@" is a version that no program is linked to
+        if (!address.empty() && type != "A")  // "A": the version itself
+            table.defined[name.substr(0, at)] = {address, type[0], at != name.npos ? name.substr(at + 2) : ""};
         else if (type == "U" && name.find('@') == std::string::npos)
             table.undefined.insert(name);
     }
@@ -90,6 +99,22 @@ TEST(Exports, are_nothing_else)
 {
     const auto names = contract();
     for (const auto &[name, symbol] : library().defined) EXPECT_TRUE(names.contains(name)) << name;
+}
+
+std::string major_version() { return std::string(PROJECT_VERSION).substr(0, std::string(PROJECT_VERSION).find('.')); }
+
+TEST(Exports, all_bear_the_version_that_the_project_has)
+{
+    for (const auto &[name, symbol] : library().defined)
+        EXPECT_EQ(symbol.version, "VMF_MAP_OC_BGP_" + major_version()) << name;
+}
+
+TEST(Exports, stand_in_a_library_whose_name_bears_the_version_that_the_project_has)
+{
+    const std::string command = std::string(READELF) + " -d " + LIBRARY_FILE;
+    EXPECT_NE(output_of(command).find("Library soname: [libvmf_map_oc_bgp.so." + major_version() + "]\n"),
+              std::string::npos);
+    EXPECT_TRUE(std::string(LIBRARY_FILE).ends_with("/libvmf_map_oc_bgp.so." PROJECT_VERSION)) << LIBRARY_FILE;
 }
 
 TEST(Exports, are_as_many_as_the_trees_have_nodes)
