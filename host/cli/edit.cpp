@@ -5,6 +5,7 @@
 #include "difference.h"
 #include "exit_codes.h"
 #include "report.h"
+#include "rpc_errors.h"
 
 namespace cli {
 
@@ -36,6 +37,7 @@ void apply(const framework::MappedRequest &mapped, router::Router &router, const
     const platform::Tree before = options.only_shows ? router.config(router::Datastore::candidate) : platform::Tree();
     router.edit(mapped.native());
     if (options.only_shows) {
+        if (options.rpc_error) router.validate();  // before anything is printed
         show(mapped, before, router, options);
         router.validate();
     } else if (options.stays_candidate) {
@@ -64,13 +66,16 @@ int edit(const EditOptions &options)
     print_notes(mapped);
     if (mapped.outcome() != VMF_RC_OK) {
         print_refusal(mapped.refusal());
+        if (options.rpc_error) print_rpc_error(mapped.refusal(), document.bgp.root());
         return exit_refused;
     }
     try {
         apply(mapped, router, options);
         return exit_ok;
     } catch (const router::Refused &refused) {
-        print_violations(refused, [&](const std::string &native_path) { return mapped.origin_of(native_path); });
+        const auto origin_of = [&](const std::string &native_path) { return mapped.origin_of(native_path); };
+        print_violations(refused, origin_of);
+        if (options.rpc_error) print_rpc_errors(refused, &document.bgp.root(), origin_of);
         return exit_refused_by_router;
     }
 }

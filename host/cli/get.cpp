@@ -7,6 +7,7 @@
 #include "exit_codes.h"
 #include "get_request.h"
 #include "report.h"
+#include "rpc_errors.h"
 
 namespace cli {
 
@@ -54,6 +55,7 @@ int get(const GetOptions &options)
     print_notes(mapped);
     if (mapped.outcome() != VMF_RC_OK) {
         print_refusal(mapped.refusal());
+        if (options.rpc_error) print_rpc_error(mapped.refusal(), document.bgp.root());
         return exit_refused;
     }
     note_config_and_state(mapped.request().context());
@@ -62,6 +64,7 @@ int get(const GetOptions &options)
     const uint32_t outcome = answer_of(router, mapped, router::Datastore::running, answer);
     if (outcome != VMF_RC_OK) {
         print_refused_answer(outcome, mapped.request().context().rejected_tag);
+        if (options.rpc_error) print_rpc_error_of_answer(outcome, mapped.request().context().rejected_tag);
         return exit_refused;
     }
     for (const std::string &line : framework::check_answer(answer.root())) std::cerr << "warning: " << line << "\n";
