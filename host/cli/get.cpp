@@ -6,6 +6,8 @@
 #include "exchange.h"
 #include "exit_codes.h"
 #include "get_request.h"
+#include "missing.h"
+#include "model_defaults.h"
 #include "report.h"
 #include "rpc_errors.h"
 
@@ -34,6 +36,25 @@ void note_config_and_state(const RequestContext &request)
     if (request.config_named != 0 && request.state_named != 0)
         std::cerr << "note: config and state were both named, and each keeps the other out; read one of them, or what "
                      "holds both\n";
+}
+
+// Says on standard error what was asked and is not there. The request runs once more, with all of it written down.
+void explain_missing(const router::Router &router, const framework::MappedRequest::Setting &setting,
+                     io::Secrets secrets)
+{
+    framework::RecordedRequest again(setting.read, setting.kind, *setting.database);
+    const framework::Recording &recording = again.recording();
+    if (recording.outcome != VMF_RC_OK) return;
+    again.answer(response_to(router, recording.native.root(), recording.wants_operational, router::Datastore::running));
+    if (recording.answer_outcome != VMF_RC_OK) return;
+    for (const framework::MissingNode &node :
+         framework::missing_nodes(recording, *setting.database, router::default_of_openconfig, secrets)) {
+        std::cerr << "missing: " << node.path << ": " << node.text;
+        if (node.others > 0) std::cerr << " (and so " << node.others << " more)";
+        std::cerr << "\n";
+    }
+    for (const std::string &line : framework::dropped_values(recording, *setting.database, secrets))
+        std::cerr << "dropped: " << line << "\n";
 }
 
 }  // namespace
@@ -69,6 +90,10 @@ int get(const GetOptions &options)
     }
     for (const std::string &line : framework::check_answer(answer.root())) std::cerr << "warning: " << line << "\n";
     std::cout << write_trees(answer.root(), options.format, io::Envelope::data, options.router.secrets);
+    if (options.explains_missing) {
+        std::cout.flush();
+        explain_missing(router, setting, options.router.secrets);
+    }
     return exit_ok;
 }
 
