@@ -163,18 +163,30 @@ void collect_leaves(const Datatree &node, const Datatree &parent, const std::str
     for (const Datatree &child : platform::children_of(node)) collect_leaves(child, node, path, schema, leaves);
 }
 
+// The two native trees have roots of one name.
+std::string model_of(const Datatree &tree)
+{
+    const char *ns = platform::namespace_of(tree);
+    return ns != nullptr ? std::string(io::short_name(ns)) : "";
+}
+
+std::string schema_of_root(const Datatree &tree) { return model_of(tree) + "/" + std::string(tag_of(tree)); }
+
 std::vector<NativeLeaf> leaves_below(const Datatree &holder)
 {
     std::vector<NativeLeaf> leaves;
-    for (const Datatree &tree : platform::children_of(holder)) {
-        const char *ns = platform::namespace_of(tree);
-        collect_leaves(tree, holder, "", ns != nullptr ? std::string(io::short_name(ns)) : "", leaves);
-    }
+    for (const Datatree &tree : platform::children_of(holder)) collect_leaves(tree, holder, "", model_of(tree), leaves);
     return leaves;
 }
 
-// What a native request selects of a response, as a subtree filter does (RFC 6241, section 6): a leaf with a value has
-// to match, and is not what was asked for.
+void take_leaves(const Datatree &node, std::unordered_set<const Datatree *> &leaves)
+{
+    if (platform::children_of(node).empty()) leaves.insert(&node);
+    for (const Datatree &child : platform::children_of(node)) take_leaves(child, leaves);
+}
+
+// What a native request selects of a response: as a subtree filter does (RFC 6241, section 6), but for entries and
+// containers that the mapping added on the way to something, which would select all that they hold.
 void select(const Datatree &request, const Datatree &response, std::unordered_set<const Datatree *> &selected)
 {
     const auto wanted = platform::children_of(request);
@@ -183,17 +195,10 @@ void select(const Datatree &request, const Datatree &response, std::unordered_se
         const Datatree *own = child_of(&response, tag_of(match));
         if (own == nullptr || !is_same_value(match, *own)) return;
     }
-    const bool selects_all = std::all_of(wanted.begin(), wanted.end(),
-                                         [](const Datatree &child) { return platform::value_of(child) != nullptr; });
-    if (selects_all && platform::children_of(response).empty()) selected.insert(&response);
-    for (const Datatree &child : platform::children_of(response)) {
-        if (selects_all) {
-            select({}, child, selected);
-            continue;
-        }
+    if (wanted.empty() && platform::is_selected(request)) take_leaves(response, selected);
+    for (const Datatree &child : platform::children_of(response))
         for (const Datatree &one : wanted)
             if (platform::value_of(one) == nullptr && tag_of(one) == tag_of(child)) select(one, child, selected);
-    }
 }
 
 std::unordered_set<const Datatree *> selected_leaves(const Datatree &request, const Datatree &response)
@@ -402,7 +407,7 @@ private:
     {
         std::vector<MissingNode> own;
         for (const Instance &instance : instances) {
-            if (instance.node != nullptr) continue;
+            if (instance.node != nullptr && says_something(leaf, *instance.node)) continue;
             MissingNode missing = explain(leaf, instance.path);
             const auto alike = std::find_if(own.begin(), own.end(), [&](const MissingNode &one) {
                 return one.reason == missing.reason &&
@@ -415,6 +420,12 @@ private:
         }
         std::move(own.begin(), own.end(), std::back_inserter(found));
         return 1;
+    }
+
+    // A word that the mapping does not know leaves a leaf without a value behind.
+    static bool says_something(const model::OcNode &leaf, const Datatree &node)
+    {
+        return platform::value_of(node) != nullptr || leaf.type == model::Type::empty_;
     }
 
     MissingNode explain(const model::OcNode &leaf, const std::string &path)
@@ -530,6 +541,44 @@ void take_out(Datatree &node, const std::string &schema, const std::string &want
     if (kept < node.subtree_count) node.subtree_count = kept;
 }
 
+// Whether anything comes of the native leaves of a schema path: in the answer to the request, or in that to a read of
+// everything.
+class Influence {
+public:
+    Influence(const Recording &recording, const platform::Database &database)
+        : recording_(recording), database_(database)
+    {
+    }
+
+    bool has(const std::string &schema)
+    {
+        if (with_.empty())
+            for (const Read read : reads) with_.push_back(answer(read, copy_of(recording_.response.root())));
+        for (size_t at = 0; at < std::size(reads); at++) {
+            platform::Tree without = copy_of(recording_.response.root());
+            for (Datatree &tree : platform::children_of(without.root())) take_out(tree, schema_of_root(tree), schema);
+            if (answer(reads[at], std::move(without)) != with_[at]) return true;
+        }
+        return false;
+    }
+
+private:
+    enum class Read : uint8_t { as_asked, everything };
+    static constexpr Read reads[] = {Read::as_asked, Read::everything};
+
+    std::string answer(Read read, platform::Tree response) const
+    {
+        const bool is_as_asked = read == Read::as_asked;
+        Again again(is_as_asked ? recording_.kind : uint32_t{VMF_REQ_GET}, database_,
+                    is_as_asked ? copy_of_request(recording_.request) : io::read_path("/bgp"));
+        return again.answer_to(std::move(response));
+    }
+
+    const Recording &recording_;
+    const platform::Database &database_;
+    std::vector<std::string> with_;
+};
+
 std::string reason_of(const Step &handler)
 {
     for (const Step &step : handler.steps)
@@ -570,23 +619,12 @@ std::vector<std::string> dropped_values(const Recording &recording, const platfo
         if (is_new) order.push_back(leaf.schema);
     }
 
-    std::string whole;
     std::vector<std::string> lines;
+    Influence influence(recording, database);
     for (const std::string &schema : order) {
         const Silent &silent = by_schema.at(schema);
-        if (silent.handler != nullptr) {  // it may be held for another one
-            if (whole.empty())
-                whole = Again(recording.kind, database, copy_of_request(recording.request))
-                            .answer_to(copy_of(recording.response.root()));
-            platform::Tree without = copy_of(recording.response.root());
-            for (Datatree &tree : platform::children_of(without.root())) {
-                const char *ns = platform::namespace_of(tree);
-                take_out(tree, (ns != nullptr ? std::string(io::short_name(ns)) : "") + "/bgp", schema);
-            }
-            const std::string answer =
-                Again(recording.kind, database, copy_of_request(recording.request)).answer_to(std::move(without));
-            if (answer != whole) continue;
-        }
+        // It may be held for another leaf, or be kept out of this answer only because nobody asked for it.
+        if (silent.handler != nullptr && influence.has(schema)) continue;
         std::string line = silent.first->path + shown(*silent.first->leaf, silent.first->parent, secrets) + ": " +
                            (silent.handler != nullptr ? reason_of(*silent.handler) : "no handler takes it");
         if (silent.count > 1) line += " (and so " + std::to_string(silent.count - 1) + " more)";

@@ -15,27 +15,6 @@ namespace {
 constexpr std::string_view protocol = "protocol";
 constexpr std::string_view application = "application";
 
-// The path without its keys and positions.
-std::string schema_of(std::string_view path)
-{
-    std::string schema;
-    char quote = '\0';
-    bool in_key = false;
-    for (const char c : path) {
-        if (quote != '\0') {
-            if (c == quote) quote = '\0';
-        } else if (in_key) {
-            if (c == '\'' || c == '"') quote = c;
-            if (c == ']') in_key = false;
-        } else if (c == '[') {
-            in_key = true;
-        } else {
-            schema += c;
-        }
-    }
-    return schema;
-}
-
 const model::OcNode *parent_of(const std::string &schema)
 {
     return model::find_oc_node(schema.substr(0, schema.rfind('/')));
@@ -43,7 +22,7 @@ const model::OcNode *parent_of(const std::string &schema)
 
 // Where a walk ended, in the terms of the model.
 struct Place {
-    explicit Place(const std::string &path) : schema(schema_of(path)), node(model::find_oc_node(schema)) {}
+    explicit Place(const std::string &path) : schema(io::schema_of_path(path)), node(model::find_oc_node(schema)) {}
 
     // The list whose entry, or whose entry's key, this is; null if it is neither.
     const model::OcNode *list() const

@@ -212,6 +212,13 @@ void write_error(xmlTextWriterPtr writer, const RpcError &error, const Datatree 
 
 }  // namespace
 
+std::string schema_of_path(std::string_view path)
+{
+    std::string schema;
+    while (path.starts_with('/')) schema.append("/").append(take_element(path).name);
+    return schema;
+}
+
 std::string write_rpc_errors(const std::vector<RpcError> &errors, const Datatree *bgp)
 {
     const std::unique_ptr<xmlBuffer, FreeBuffer> buffer(xmlBufferCreate());

@@ -18,6 +18,9 @@ struct RpcError {
     std::string bad_element = {};
 };
 
+// A client's path without its keys and positions.
+std::string schema_of_path(std::string_view path);
+
 // An <rpc-reply> with an <rpc-error> for each, all of severity "error". A path becomes XPath: its names get prefixes,
 // which are declared, and so do identities among its keys. `bgp`, if not null, is the request, which tells the
 // namespace of a node that the model does not have.
