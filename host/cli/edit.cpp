@@ -4,7 +4,9 @@
 
 #include "difference.h"
 #include "exit_codes.h"
+#include "progress.h"
 #include "report.h"
+#include "rpc_errors.h"
 
 namespace cli {
 
@@ -28,20 +30,31 @@ void show(const framework::MappedRequest &mapped, const platform::Tree &before, 
     std::cout << "# difference\n" << (difference.empty() ? "none\n" : difference);
 }
 
+void store(router::Router &router, bool stays_candidate)
+{
+    if (stays_candidate)
+        router.keep_candidate();
+    else
+        router.commit();
+}
+
 // The candidate takes the edit, or stays as it was.
-void apply(const framework::MappedRequest &mapped, router::Router &router, const EditOptions &options)
+void apply(const framework::MappedRequest &mapped, router::Router &router, const EditOptions &options,
+           Progress &progress)
 {
     if (router.candidate_differs() && !options.stays_candidate)
-        std::cerr << "note: the candidate holds changes already; a commit of this edit takes them along\n";
+        progress.interrupt(
+            [] { std::cerr << "note: the candidate holds changes already; a commit of this edit takes them along\n"; });
     const platform::Tree before = options.only_shows ? router.config(router::Datastore::candidate) : platform::Tree();
     router.edit(mapped.native());
     if (options.only_shows) {
+        progress.finish();
+        if (options.rpc_error) router.validate();  // before anything is printed
         show(mapped, before, router, options);
         router.validate();
-    } else if (options.stays_candidate) {
-        router.keep_candidate();
     } else {
-        router.commit();
+        progress.step("storing");
+        store(router, options.stays_candidate);
     }
 }
 
@@ -49,28 +62,41 @@ void apply(const framework::MappedRequest &mapped, router::Router &router, const
 
 int edit(const EditOptions &options)
 {
-    const std::string text = io::read_input(options.file);
+    const std::string text = io::read_input(options.file);  // which a person may type
+    Progress progress(options.is_quiet || options.trace);
+    progress.step("reading");
     const io::Document document = read_edit(text, options.file);
     router::Router router(options.router.folder, options.router.wait());
 
     TracePrinter trace(options.router.secrets);
     trace.hide(document.bgp.root());
     framework::MappedRequest::Setting setting;
-    setting.read = [&] { return read_edit(text, options.file); };
+    setting.read = [&] {
+        progress.step("reading");
+        io::Document again = read_edit(text, options.file);
+        progress.count_entries(again.bgp.root());
+        return again;
+    };
     setting.kind = VMF_REQ_EDIT;
     setting.database = &router.database();
     if (options.trace) setting.trace = [&](std::string_view line) { trace.print(line); };
     framework::MappedRequest mapped(setting);
-    print_notes(mapped);
+    progress.step("applying");
+    progress.interrupt([&] { print_notes(mapped); });
     if (mapped.outcome() != VMF_RC_OK) {
+        progress.finish();
         print_refusal(mapped.refusal());
+        if (options.rpc_error) print_rpc_error(mapped.refusal(), document.bgp.root());
         return exit_refused;
     }
     try {
-        apply(mapped, router, options);
+        apply(mapped, router, options, progress);
         return exit_ok;
     } catch (const router::Refused &refused) {
-        print_violations(refused, [&](const std::string &native_path) { return mapped.origin_of(native_path); });
+        progress.finish();
+        const auto origin_of = [&](const std::string &native_path) { return mapped.origin_of(native_path); };
+        print_violations(refused, origin_of);
+        if (options.rpc_error) print_rpc_errors(refused, &document.bgp.root(), origin_of);
         return exit_refused_by_router;
     }
 }

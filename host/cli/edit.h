@@ -13,6 +13,8 @@ struct EditOptions {
     bool only_shows = false;       // what the edit is natively, and the difference that it would make
     bool stays_candidate = false;  // not committed
     bool trace = false;
+    bool rpc_error = false;        // a refusal as an error of NETCONF too
+    bool is_quiet = false;         // no progress on a terminal
     Format format = Format::tree;  // of what is shown
 };
 

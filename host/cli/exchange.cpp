@@ -21,19 +21,21 @@ void add_trees(platform::Tree &to, platform::Tree from)
     }
 }
 
-platform::Tree execute(const router::Router &router, framework::MappedRequest &mapped, router::Datastore from)
+}  // namespace
+
+platform::Tree response_to(const router::Router &router, const Datatree &native, bool wants_operational,
+                           router::Datastore from)
 {
-    platform::Tree response = router.read_config(mapped.native(), from);
-    if (mapped.request().wants_operational()) add_trees(response, router.read_operational(mapped.native()));
+    platform::Tree response = router.read_config(native, from);
+    if (wants_operational) add_trees(response, router.read_operational(native));
     return response;
 }
-
-}  // namespace
 
 uint32_t answer_of(const router::Router &router, framework::MappedRequest &mapped, router::Datastore from,
                    platform::Tree &answer)
 {
-    const uint32_t outcome = mapped.request().answer(execute(router, mapped, from), answer);
+    platform::Tree response = response_to(router, mapped.native(), mapped.request().wants_operational(), from);
+    const uint32_t outcome = mapped.request().answer(std::move(response), answer);
     if (outcome == VMF_RC_OK) framework::qualify_identities(answer.root());
     return outcome;
 }

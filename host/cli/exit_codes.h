@@ -12,6 +12,7 @@ enum ExitCode {
     exit_refused_by_router = 3,  // it would be no valid configuration, or no AS is known
     exit_locked = 4,             // another process has the router
     exit_store = 5,              // there is no router, or its files are damaged or cannot be written
+    exit_differs = 6,            // what a saved trace gave then, and gives now
     exit_usage = 64,
     exit_failed = 70,  // the command itself
 };

@@ -6,7 +6,10 @@
 #include "exchange.h"
 #include "exit_codes.h"
 #include "get_request.h"
+#include "missing.h"
+#include "model_defaults.h"
 #include "report.h"
+#include "rpc_errors.h"
 
 namespace cli {
 
@@ -35,6 +38,25 @@ void note_config_and_state(const RequestContext &request)
                      "holds both\n";
 }
 
+// Says on standard error what was asked and is not there. The request runs once more, with all of it written down.
+void explain_missing(const router::Router &router, const framework::MappedRequest::Setting &setting,
+                     io::Secrets secrets)
+{
+    framework::RecordedRequest again(setting.read, setting.kind, *setting.database);
+    const framework::Recording &recording = again.recording();
+    if (recording.outcome != VMF_RC_OK) return;
+    again.answer(response_to(router, recording.native.root(), recording.wants_operational, router::Datastore::running));
+    if (recording.answer_outcome != VMF_RC_OK) return;
+    for (const framework::MissingNode &node :
+         framework::missing_nodes(recording, *setting.database, router::default_of_openconfig, secrets)) {
+        std::cerr << "missing: " << node.path << ": " << node.text;
+        if (node.others > 0) std::cerr << " (and so " << node.others << " more)";
+        std::cerr << "\n";
+    }
+    for (const std::string &line : framework::dropped_values(recording, *setting.database, secrets))
+        std::cerr << "dropped: " << line << "\n";
+}
+
 }  // namespace
 
 int get(const GetOptions &options)
@@ -54,6 +76,7 @@ int get(const GetOptions &options)
     print_notes(mapped);
     if (mapped.outcome() != VMF_RC_OK) {
         print_refusal(mapped.refusal());
+        if (options.rpc_error) print_rpc_error(mapped.refusal(), document.bgp.root());
         return exit_refused;
     }
     note_config_and_state(mapped.request().context());
@@ -62,10 +85,15 @@ int get(const GetOptions &options)
     const uint32_t outcome = answer_of(router, mapped, router::Datastore::running, answer);
     if (outcome != VMF_RC_OK) {
         print_refused_answer(outcome, mapped.request().context().rejected_tag);
+        if (options.rpc_error) print_rpc_error_of_answer(outcome, mapped.request().context().rejected_tag);
         return exit_refused;
     }
     for (const std::string &line : framework::check_answer(answer.root())) std::cerr << "warning: " << line << "\n";
     std::cout << write_trees(answer.root(), options.format, io::Envelope::data, options.router.secrets);
+    if (options.explains_missing) {
+        std::cout.flush();
+        explain_missing(router, setting, options.router.secrets);
+    }
     return exit_ok;
 }
 

@@ -13,6 +13,8 @@ struct GetOptions {
     std::string path;
     bool only_config = false;
     bool trace = false;
+    bool rpc_error = false;         // a refusal as an error of NETCONF too
+    bool explains_missing = false;  // says what was asked and is not there
     Format format = Format::xml;
 };
 

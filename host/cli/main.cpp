@@ -12,8 +12,11 @@
 #include "edit.h"
 #include "exit_codes.h"
 #include "get.h"
+#include "replay.h"
 #include "report.h"
+#include "rpc_errors.h"
 #include "store_commands.h"
+#include "trace_command.h"
 #include "translate.h"
 #include "vmf_map_types.h"
 
@@ -22,7 +25,8 @@ namespace {
 constexpr char exit_code_help[] =
     "Exit codes: 0 done, 1 refused by the mapping, 2 unreadable input, 3 refused by the router (no\n"
     "valid configuration, or no AS number known), 4 locked by another process, 5 no router, or a\n"
-    "damaged or full store, 64 wrong usage, 70 failure of the command itself.";
+    "damaged or full store, 6 a saved trace gives something else, 64 wrong usage, 70 failure of the\n"
+    "command itself.";
 
 // ---- Options that commands share ------------------------------------------------------------
 
@@ -63,6 +67,14 @@ double read_seconds(const std::string &text)
     return seconds;
 }
 
+cli::Colour read_colour(const std::string &text)
+{
+    static const std::map<std::string, cli::Colour> words = {
+        {"auto", cli::Colour::automatic}, {"always", cli::Colour::always}, {"never", cli::Colour::never}};
+    if (auto found = words.find(text); found != words.end()) return found->second;
+    throw CLI::ValidationError("--color", "takes auto, always or never, not \"" + text + "\"");
+}
+
 void add_format(CLI::App *command, cli::Format &format, const char *otherwise)
 {
     command
@@ -83,17 +95,43 @@ void add_trace(CLI::App *command, bool &trace)
     command->add_flag("--trace", trace, "print the mapping's trace to standard error");
 }
 
+void add_rpc_error(CLI::App *command, bool &rpc_error)
+{
+    command->add_flag("--rpc-error", rpc_error, "print a failure as NETCONF's <rpc-error> to standard output too");
+}
+
+void add_kind(CLI::App *command, std::optional<uint32_t> &kind)
+{
+    command
+        ->add_option_function<std::string>(
+            "--kind", [&kind](const std::string &text) { kind = read_kind(text); },
+            "request kind; told by the input where it can, else edit")
+        ->option_text("edit|get|get-config|N");
+}
+
+CLI::Option *add_global_as(CLI::App *command, std::optional<uint32_t> &global_as)
+{
+    return command->add_option("--as", global_as, "global AS number that the router has already")
+        ->check(CLI::Range(uint32_t{1}, UINT32_MAX))
+        ->option_text("N");
+}
+
+void add_wait(CLI::App *command, double &patience)
+{
+    command
+        ->add_option_function<std::string>(
+            "--wait", [&patience](const std::string &text) { patience = read_seconds(text); },
+            "seconds to wait for another process to leave it (5)")
+        ->option_text("SECONDS");
+}
+
 void add_router(CLI::App *command, cli::RouterOptions &options)
 {
     const char *from_environment = std::getenv("OCBGP_ROUTER");
     options.folder = from_environment != nullptr ? from_environment : "ocbgp-router";
     command->add_option("--router", options.folder, "folder of the embedded router ($OCBGP_ROUTER, or ./ocbgp-router)")
         ->option_text("DIR");
-    command
-        ->add_option_function<std::string>(
-            "--wait", [&options](const std::string &text) { options.patience = read_seconds(text); },
-            "seconds to wait for another process to leave it (5)")
-        ->option_text("SECONDS");
+    add_wait(command, options.patience);
 }
 
 // ---- Commands -------------------------------------------------------------------------------
@@ -133,6 +171,8 @@ struct Options {
     cli::TranslateOptions translate;
     cli::EditOptions edit;
     cli::GetOptions get;
+    cli::TraceOptions trace;
+    cli::ReplayOptions replay;
     cli::RouterOptions router;
     std::string file;
     std::string what;
@@ -141,30 +181,29 @@ struct Options {
 
 void add_translate(Commands &commands, cli::TranslateOptions &options)
 {
-    CLI::App *command = commands.add("translate", "Show what an OpenConfig request becomes natively",
-                                     "translate examples/global-edit.xml --as 65001 --format tree",
-                                     [&options] { return cli::translate(options); });
+    CLI::App *command =
+        commands.add("translate", "Show what an OpenConfig request becomes natively",
+                     "translate examples/global-edit.xml --as 65001 --format tree", [&options] {
+                         return cli::telling_rpc_errors(options.rpc_error, [&] { return cli::translate(options); });
+                     });
     command->add_option("FILE", options.file, "request as XML or JSON; - for standard input")
         ->required()
         ->option_text(" ");
-    command
-        ->add_option_function<std::string>(
-            "--kind", [&options](const std::string &text) { options.kind = read_kind(text); },
-            "request kind; told by the input where it can, else edit")
-        ->option_text("edit|get|get-config|N");
-    command->add_option("--as", options.global_as, "global AS number that the router has already")
-        ->check(CLI::Range(uint32_t{1}, UINT32_MAX))
-        ->option_text("N");
+    add_kind(command, options.kind);
+    add_global_as(command, options.global_as);
     add_format(command, options.format, "xml");
     add_trace(command, options.trace);
+    add_rpc_error(command, options.rpc_error);
     add_secrets(command, options.secrets);
 }
 
 void add_edit(Commands &commands, cli::EditOptions &options)
 {
-    CLI::App *command = commands.add("edit", "Apply an OpenConfig edit to the embedded router",
-                                     "edit examples/global-edit.xml --router /tmp/router --dry-run",
-                                     [&options] { return cli::edit(options); });
+    CLI::App *command =
+        commands.add("edit", "Apply an OpenConfig edit to the embedded router",
+                     "edit examples/global-edit.xml --router /tmp/router --dry-run", [&options] {
+                         return cli::telling_rpc_errors(options.rpc_error, [&] { return cli::edit(options); });
+                     });
     command->add_option("FILE", options.file, "edit as XML or JSON; - for standard input")
         ->required()
         ->option_text(" ");
@@ -172,27 +211,67 @@ void add_edit(Commands &commands, cli::EditOptions &options)
                                              "only show the native edit and the difference it would make");
     command->add_flag("--candidate", options.stays_candidate, "leave it in the candidate, without a commit")
         ->excludes(dry_run);
+    command->add_flag("--quiet", options.is_quiet, "no progress, on a terminal too");
     add_format(command, options.format, "tree");
     add_trace(command, options.trace);
+    add_rpc_error(command, options.rpc_error);
     add_secrets(command, options.router.secrets);
     add_router(command, options.router);
 }
 
 void add_get(Commands &commands, cli::GetOptions &options)
 {
-    CLI::App *command =
-        commands.add("get", "Read the embedded router in OpenConfig terms",
-                     "get --router /tmp/router --path /bgp/global/config", [&options] { return cli::get(options); });
+    CLI::App *command = commands.add(
+        "get", "Read the embedded router in OpenConfig terms", "get --router /tmp/router --path /bgp/global/config",
+        [&options] { return cli::telling_rpc_errors(options.rpc_error, [&] { return cli::get(options); }); });
     CLI::Option *filter =
         command->add_option("FILTER", options.filter, "filter as XML or JSON; - for standard input")->option_text(" ");
     command->add_option("--path", options.path, "a path with list keys in brackets, in the place of a filter")
         ->excludes(filter)
         ->option_text("PATH");
     command->add_flag("--config", options.only_config, "as <get-config>, not <get>: configuration alone");
+    command->add_flag("--explain-missing", options.explains_missing, "say what was asked and is not there, and why");
     add_format(command, options.format, "xml");
     add_trace(command, options.trace);
+    add_rpc_error(command, options.rpc_error);
     add_secrets(command, options.router.secrets);
     add_router(command, options.router);
+}
+
+void add_trace_command(Commands &commands, cli::TraceOptions &options)
+{
+    CLI::App *command = commands.add("trace", "Show which handlers a request runs, and what each of them does",
+                                     "trace examples/global-edit.xml", [&options] { return cli::trace(options); });
+    CLI::Option *file = command->add_option("FILE", options.file, "request as XML or JSON; - for standard input");
+    file->option_text(" ");
+    command->add_option("--path", options.path, "a path to read, in the place of a file")
+        ->excludes(file)
+        ->option_text("PATH");
+    add_kind(command, options.kind);
+    command->add_flag("--config", options.only_config, "as <get-config>, not <get>: configuration alone");
+    CLI::Option *folder = command->add_option("--router", options.folder,
+                                              "folder of an embedded router, which is asked and never changed");
+    folder->option_text("DIR");
+    add_wait(command, options.patience);
+    add_global_as(command, options.global_as)->excludes(folder);
+    command->add_option("--save", options.save, "write all of it to a file that `ocbgp replay` runs again")
+        ->option_text("FILE");
+    command->add_flag("--json", options.as_json, "print the walk as JSON");
+    command
+        ->add_option_function<std::string>(
+            "--color", [&options](const std::string &text) { options.colour = read_colour(text); },
+            "when to colour (auto: on a terminal, unless NO_COLOR is set)")
+        ->option_text("auto|always|never");
+    add_secrets(command, options.secrets);
+}
+
+void add_replay(Commands &commands, cli::ReplayOptions &options)
+{
+    CLI::App *command =
+        commands.add("replay", "Run saved traces again, and show what differs", "replay tests/golden/global-edit.trace",
+                     [&options] { return cli::replay(options); });
+    command->add_option("FILE", options.files, "what `ocbgp trace --save` wrote")->required()->option_text("...");
+    command->add_flag("--update", options.updates, "write what came of it into the files that differ");
 }
 
 void add_store_commands(Commands &commands, Options &options)
@@ -263,6 +342,8 @@ int run(int argc, char **argv)
     add_translate(commands, options.translate);
     add_edit(commands, options.edit);
     add_get(commands, options.get);
+    add_trace_command(commands, options.trace);
+    add_replay(commands, options.replay);
     add_store_commands(commands, options);
     try {
         app.parse(argc, argv);

@@ -5,6 +5,7 @@
 #include "database_items.h"
 #include "exit_codes.h"
 #include "report.h"
+#include "rpc_errors.h"
 
 namespace cli {
 
@@ -29,6 +30,7 @@ int translate(const TranslateOptions &options)
     print_notes(mapped);
     if (mapped.outcome() != VMF_RC_OK) {
         print_refusal(mapped.refusal());
+        if (options.rpc_error) print_rpc_error(mapped.refusal(), document.bgp.root());
         return exit_refused;
     }
     const io::Envelope envelope = is_read(kind) ? io::Envelope::filter : io::Envelope::config;

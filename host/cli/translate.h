@@ -16,6 +16,7 @@ struct TranslateOptions {
     std::optional<uint32_t> global_as;  // that the router has already
     Format format = Format::xml;
     bool trace = false;
+    bool rpc_error = false;  // a refusal as an error of NETCONF too
     io::Secrets secrets = io::Secrets::hidden;
 };
 

@@ -24,10 +24,17 @@ std::string shown_namespace(std::string_view ns)
     return name.empty() ? "<" + std::string(ns) + ">" : std::string(name);
 }
 
+// What begins as the short name of a namespace would be read as one.
+bool begins_as_namespace(std::string_view value)
+{
+    const size_t colon = value.find(':');
+    return colon != std::string_view::npos && !namespace_of_short_name(value.substr(0, colon)).empty();
+}
+
 bool needs_quotes(std::string_view value)
 {
-    return value.empty() || value.front() == ' ' || value.back() == ' ' || value.front() == '"' ||
-           value.find_first_of("\n\r\t\\") != std::string_view::npos;
+    return begins_as_namespace(value) || value.empty() || value.front() == ' ' || value.back() == ' ' ||
+           value.front() == '"' || value.find_first_of("\n\r\t\\") != std::string_view::npos;
 }
 
 std::string shown_value(std::string_view value)

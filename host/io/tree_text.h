@@ -9,8 +9,8 @@
 //           as = 65001
 //     afi-safi-name = bgp-types:IPV4_UNICAST    a data namespace
 //
-// A value that is empty, begins or ends with a blank, begins with a quote, or holds a line end or a backslash, is
-// quoted as a JSON string. Namespaces that have no short name stand whole, in angle brackets.
+// A value that is empty, begins or ends with a blank, begins with a quote or as a data namespace would, or holds a line
+// end or a backslash, is quoted as a JSON string. Namespaces that have no short name stand whole, in angle brackets.
 #pragma once
 
 #include <string>

@@ -17,6 +17,8 @@ struct DatabaseRecord {
     std::vector<uint32_t> words = {};  // the packed tuple
     uint32_t part = 0;                 // results come in parts, in ascending order
     bool only_in_candidate = false;    // seen by the merged view alone
+
+    bool operator==(const DatabaseRecord &) const = default;
 };
 
 // What answers the mapping's queries.
