@@ -9,9 +9,10 @@ export CTEST_PARALLEL_LEVEL ?= $(JOBS)
 run_packages := g++ cmake ninja-build pkg-config ccache libxml2-dev nlohmann-json3-dev libcli11-dev \
 	libyang2-dev
 test_packages := $(run_packages) clang clang-format clang-tidy libclang-rt-14-dev binutils git \
-	libgtest-dev libyang2-tools
+	libgtest-dev libyang2-tools python3
+docs_packages := python3 chromium chromium-driver
 
-.PHONY: run test fuzz format format-check tidy generate test-release test-sanitize test-thread clean
+.PHONY: run test test-docs reference fuzz format format-check tidy generate test-release test-sanitize test-thread clean
 
 run:
 	scripts/install-packages $(run_packages)
@@ -20,19 +21,31 @@ run:
 	scripts/show-examples build/run/bin/ocbgp
 
 # Everything that has to hold: formatted, generated sources fresh, no warning of either compiler or of clang-tidy, all
-# tests, and all tests again under the address and undefined-behaviour sanitizers.
+# tests, and all tests again under the address and undefined-behaviour sanitizers; the reference in a browser.
 test:
 	scripts/install-packages $(test_packages)
 	$(MAKE) format-check
 	$(MAKE) test-release
 	$(MAKE) tidy
 	$(MAKE) test-sanitize
+	$(MAKE) test-docs
 
 # Threads under the thread sanitizer: `make test-thread`, which is not part of `make test`.
 test-release test-sanitize test-thread: test-%:
 	cmake --preset $*
 	cmake --build --preset $* -j $(JOBS)
 	ctest --preset $*
+
+# The reference as a page, in a headless Chromium. What else the documents say, `make test-release` tests.
+test-docs:
+	scripts/install-packages $(docs_packages)
+	tests/docs/page_test.py
+
+# The mapping reference, of what the library does today.
+reference:
+	cmake --preset release
+	cmake --build --preset release -j $(JOBS) --target ocbgp
+	scripts/mapping-reference --ocbgp build/release/bin/ocbgp
 
 # Each fuzzer for so many seconds, as many at once as there are processors.
 FUZZ_SECONDS ?= 600
