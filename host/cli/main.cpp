@@ -10,6 +10,7 @@
 
 #include "edit.h"
 #include "exit_codes.h"
+#include "explain.h"
 #include "get.h"
 #include "report.h"
 #include "store_commands.h"
@@ -132,6 +133,7 @@ struct Options {
     cli::TranslateOptions translate;
     cli::EditOptions edit;
     cli::GetOptions get;
+    cli::ExplainOptions explain;
     cli::RouterOptions router;
     std::string file;
     std::string what;
@@ -192,6 +194,16 @@ void add_get(Commands &commands, cli::GetOptions &options)
     add_trace(command, options.trace);
     add_secrets(command, options.router.secrets);
     add_router(command, options.router);
+}
+
+void add_explain(Commands &commands, cli::ExplainOptions &options)
+{
+    CLI::App *command =
+        commands.add("explain", "Explain what a node of the OpenConfig tree becomes natively",
+                     "explain /bgp/neighbors/neighbor/config/peer-as", [&options] { return cli::explain(options); });
+    command->add_option("PATH", options.path, "of OpenConfig, with or without keys")->option_text(" ");
+    command->add_flag("--all", options.all, "every node of the OpenConfig tree; with --json");
+    command->add_flag("--json", options.json, "as JSON");
 }
 
 void add_store_commands(Commands &commands, Options &options)
@@ -257,6 +269,7 @@ int run(int argc, char **argv)
     add_translate(commands, options.translate);
     add_edit(commands, options.edit);
     add_get(commands, options.get);
+    add_explain(commands, options.explain);
     add_store_commands(commands, options);
     try {
         app.parse(argc, argv);
