@@ -61,10 +61,17 @@ class ReferenceTest(unittest.TestCase):
         shared = "`…` stands for `/bgp/instance[instance-name='default']/instance-as[as='0']/four-byte-as[as='65001']`."
         self.assertIn(shared, self.read("neighbors.md"))
 
-    def test_a_refusal_and_nothing_are_told_apart(self):
+    def test_requests_that_are_refused_alike_share_a_row(self):
         section = self.section("/bgp/neighbors/neighbor/config/description")
-        self.assertIn("| merge | `a\\|b </script>` | **VMF_RC_BAD_ARGS**<br>not \\| this |", section)
-        self.assertIn("| nothing |", section)
+        self.assertIn("| merge, replace | `a\\|b </script>`, `c` | **VMF_RC_BAD_ARGS**<br>not \\| this |", section)
+
+    def test_what_becomes_nothing_and_what_reads_back_otherwise_is_said(self):
+        section = self.section("/bgp/neighbors/neighbor/config/description")
+        self.assertIn("| merge | (empty) | nothing |", section)
+        self.assertIn("| merge | `x` | Reads back as `y`. |", section)
+        self.assertIn("| merge (on a configured router) | `z` | Does not read back. |", section)
+        self.assertIn("| `/n`<br>with the same elsewhere |  | (empty) |", section)
+        self.assertIn("leaf, string, writable, for IPV4_UNICAST, IPV6_UNICAST. Row:", section)
 
     def test_each_node_can_be_linked_to(self):
         anchors = anchors_of(self.folder / "neighbors.md")
@@ -74,11 +81,18 @@ class ReferenceTest(unittest.TestCase):
     def test_the_page_holds_all_that_was_said_and_no_value_ends_its_script(self):
         page = self.read("index.html")
         data = page.split('id="nodes">')[1].split("</script>")[0]
-        told = json.loads(data)
-        for node in told:
+        page = json.loads(data)
+        for node in page["nodes"]:
+            for request in node["requests"]:
+                request["native"] = [
+                    {"path": page["paths"][place], "value": value, "operation": operation, "companion": companion}
+                    for place, value, operation, companion in request["native"]
+                ]
+            for answer in node["answers"]:
+                answer["native"] = page["paths"][answer["native"]]
             self.assertIsInstance(node.pop("description"), str)
             self.assertIsInstance(node.pop("row"), str)
-        self.assertEqual(told, json.loads(EXPLAINED.read_text()))
+        self.assertEqual(page["nodes"], json.loads(EXPLAINED.read_text()))
 
     def test_the_page_asks_nobody_for_anything(self):
         self.assertIn("default-src 'none'", self.read("index.html"))
