@@ -1,6 +1,6 @@
 """No link of a document leads nowhere.
 
-check_links.py [DOCUMENT...]    without documents: README.md, CONTRIBUTING.md and all of docs/
+check_links.py [DOCUMENT...]    without documents: README.md, CONTRIBUTING.md, examples/README.md and all of docs/
 """
 
 import pathlib
@@ -24,7 +24,7 @@ def fault_of(document, target):
 
 
 def documents():
-    named = [ROOT / "README.md", ROOT / "CONTRIBUTING.md"]
+    named = [ROOT / "README.md", ROOT / "CONTRIBUTING.md", ROOT / "examples/README.md"]
     return [file for file in named if file.exists()] + sorted(ROOT.glob("docs/**/*.md"))
 
 
