@@ -12,8 +12,10 @@ test_packages := $(run_packages) clang clang-format clang-tidy libclang-rt-14-de
 	libgtest-dev libyang2-tools \
 	libxslt1-dev valgrind python3 \
 	abigail-tools dpkg-dev fakeroot file fish man-db mandoc zsh
+docs_packages := python3 chromium chromium-driver
 
-.PHONY: run test fuzz bench abi-baseline format format-check tidy generate test-release test-sanitize test-thread clean
+.PHONY: run test test-docs reference fuzz bench abi-baseline format format-check tidy generate test-release \
+	test-sanitize test-thread clean
 
 run:
 	scripts/install-packages $(run_packages)
@@ -22,19 +24,31 @@ run:
 	scripts/show-examples build/run/bin/ocbgp
 
 # Everything that has to hold: formatted, generated sources fresh, no warning of either compiler or of clang-tidy, all
-# tests, and all tests again under the address and undefined-behaviour sanitizers.
+# tests, and all tests again under the address and undefined-behaviour sanitizers; the reference in a browser.
 test:
 	scripts/install-packages $(test_packages)
 	$(MAKE) format-check
 	$(MAKE) test-release
 	$(MAKE) tidy
 	$(MAKE) test-sanitize
+	$(MAKE) test-docs
 
 # Threads under the thread sanitizer: `make test-thread`, which is not part of `make test`.
 test-release test-sanitize test-thread: test-%:
 	cmake --preset $*
 	cmake --build --preset $* -j $(JOBS)
 	ctest --preset $*
+
+# The reference as a page, in a headless Chromium. What else the documents say, `make test-release` tests.
+test-docs:
+	scripts/install-packages $(docs_packages)
+	tests/docs/page_test.py
+
+# The mapping reference, of what the library does today.
+reference:
+	cmake --preset release
+	cmake --build --preset release -j $(JOBS) --target ocbgp
+	scripts/mapping-reference --ocbgp build/release/bin/ocbgp
 
 # Each fuzzer for so many seconds, as many at once as there are processors.
 FUZZ_SECONDS ?= 600

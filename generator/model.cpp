@@ -1,6 +1,7 @@
 #include <libyang/libyang.h>
 
 #include <memory>
+#include <sstream>
 
 #include "node.h"
 
@@ -36,6 +37,15 @@ std::string type_name(const lysc_node *node)
     }
 }
 
+// A text of the model on one line, however it is broken there.
+std::string on_one_line(const char *text)
+{
+    std::istringstream words(text != nullptr ? text : "");
+    std::string line;
+    for (std::string word; words >> word;) line += (line.empty() ? "" : " ") + word;
+    return line;
+}
+
 size_t add_node(Model &model, const lysc_node *schema, const std::string &parent_path)
 {
     const size_t place = model.size();
@@ -43,6 +53,7 @@ size_t add_node(Model &model, const lysc_node *schema, const std::string &parent
     node.tag = schema->name;
     node.path = parent_path + "/" + node.tag;
     node.config = (schema->flags & LYS_CONFIG_W) != 0;
+    node.description = on_one_line(schema->dsc);
     switch (schema->nodetype) {
     case LYS_CONTAINER: node.kind = NodeKind::container; break;
     case LYS_LIST: node.kind = NodeKind::list; break;

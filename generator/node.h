@@ -31,6 +31,7 @@ struct Node {
     std::string tag;
     NodeKind kind = NodeKind::container;
     std::string type;  // YANG base type of a leaf, that of its target for a leafref
+    std::string description;
     bool config = true;
     bool is_key = false;
     std::string key;               // of a list; empty if it has none or several

@@ -100,6 +100,7 @@ std::string write_node_list(const Model &nodes)
             if (node.has_default()) row["default"] = default_symbol(node);
         }
         if (node.has_man_body) row["man"] = man_symbol(node);
+        if (node.tree == "oc" && !node.description.empty()) row["description"] = node.description;
         out << row.dump() << (i + 1 < nodes.size() ? ",\n" : "\n");
     }
     out << "]\n";

@@ -11,6 +11,7 @@
 #include "completion.h"
 #include "edit.h"
 #include "exit_codes.h"
+#include "explain.h"
 #include "get.h"
 #include "replay.h"
 #include "report.h"
@@ -173,6 +174,7 @@ struct Options {
     cli::GetOptions get;
     cli::TraceOptions trace;
     cli::ReplayOptions replay;
+    cli::ExplainOptions explain;
     cli::RouterOptions router;
     std::string file;
     std::string what;
@@ -274,6 +276,16 @@ void add_replay(Commands &commands, cli::ReplayOptions &options)
     command->add_flag("--update", options.updates, "write what came of it into the files that differ");
 }
 
+void add_explain(Commands &commands, cli::ExplainOptions &options)
+{
+    CLI::App *command =
+        commands.add("explain", "Explain what a node of the OpenConfig tree becomes natively",
+                     "explain /bgp/neighbors/neighbor/config/peer-as", [&options] { return cli::explain(options); });
+    command->add_option("PATH", options.path, "of OpenConfig, with or without keys")->option_text(" ");
+    command->add_flag("--all", options.all, "every node of the OpenConfig tree; with --json");
+    command->add_flag("--json", options.json, "as JSON");
+}
+
 void add_store_commands(Commands &commands, Options &options)
 {
     cli::RouterOptions &router = options.router;
@@ -344,6 +356,7 @@ int run(int argc, char **argv)
     add_get(commands, options.get);
     add_trace_command(commands, options.trace);
     add_replay(commands, options.replay);
+    add_explain(commands, options.explain);
     add_store_commands(commands, options);
     try {
         app.parse(argc, argv);
