@@ -11,7 +11,9 @@ run_packages := g++ cmake ninja-build pkg-config ccache libxml2-dev nlohmann-jso
 test_packages := $(run_packages) clang clang-format clang-tidy libclang-rt-14-dev binutils git \
 	libgtest-dev libyang2-tools
 
-.PHONY: run test fuzz format format-check tidy generate test-release test-sanitize test-thread clean
+proof_packages := $(test_packages) gcovr python3
+
+.PHONY: run test fuzz coverage mutation format format-check tidy generate test-release test-sanitize test-thread clean
 
 run:
 	scripts/install-packages $(run_packages)
@@ -43,6 +45,22 @@ fuzz:
 	cd build/sanitize && ls bin | sed -n 's/^fuzz_//p' | xargs -P $(JOBS) -I NAME sh -c \
 		'$(CURDIR)/scripts/fuzz bin/fuzz_NAME $(FUZZ_SECONDS) fuzz/NAME > fuzz_NAME.log 2>&1 || \
 		{ tail -n 40 fuzz_NAME.log; exit 1; }; tail -n 6 fuzz_NAME.log'
+
+# What the tests reach of the library and of the host: build/coverage/summary.txt and index.html.
+coverage:
+	scripts/install-packages $(proof_packages)
+	cmake --preset coverage
+	find build/coverage -name '*.gcda' -delete
+	cmake --build --preset coverage -j $(JOBS)
+	ctest --preset coverage
+	scripts/coverage build/coverage
+
+# Whether the tests notice a library that is wrong in one place: `make mutation MUTATION="--count 50 --only peer.cpp"`.
+mutation:
+	scripts/install-packages $(proof_packages)
+	cmake --preset mutation
+	cmake --build --preset mutation -j $(JOBS)
+	scripts/mutation --build build/mutation $(MUTATION)
 
 format-check:
 	clang-format --dry-run -Werror $(SOURCES)
