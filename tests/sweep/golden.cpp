@@ -65,9 +65,9 @@ void add_trips(std::vector<Exchange> &all)
         for (const trips::Step &step : trip.steps) {
             const std::string name = trip.name + ", line " + std::to_string(step.line);
             if (step.verb == "edit") all.push_back(exchange(name, VMF_REQ_EDIT, trips::nodes_of_edit(step)));
-            if (step.verb == "get") all.push_back(exchange(name, VMF_REQ_GET, nodes_at(trips::paths_of_read(step))));
+            if (step.verb == "get") all.push_back(exchange(name, VMF_REQ_GET, trips::nodes_of_read(step)));
             if (step.verb == "get-config")
-                all.push_back(exchange(name, VMF_REQ_GET_CONFIG, nodes_at(trips::paths_of_read(step))));
+                all.push_back(exchange(name, VMF_REQ_GET_CONFIG, trips::nodes_of_read(step)));
         }
     }
 }
