@@ -13,7 +13,7 @@ test_packages := $(run_packages) clang clang-format clang-tidy libclang-rt-14-de
 
 proof_packages := $(test_packages) gcovr python3
 
-.PHONY: run test fuzz coverage mutation format format-check tidy generate test-release test-sanitize test-thread clean
+.PHONY: run test fuzz sweep coverage mutation format format-check tidy generate test-release test-sanitize test-thread clean
 
 run:
 	scripts/install-packages $(run_packages)
@@ -45,6 +45,14 @@ fuzz:
 	cd build/sanitize && ls bin | sed -n 's/^fuzz_//p' | xargs -P $(JOBS) -I NAME sh -c \
 		'$(CURDIR)/scripts/fuzz bin/fuzz_NAME $(FUZZ_SECONDS) fuzz/NAME > fuzz_NAME.log 2>&1 || \
 		{ tail -n 40 fuzz_NAME.log; exit 1; }; tail -n 6 fuzz_NAME.log'
+
+# Every operation of the platform failing in every exchange, with the sanitizers watching. `make test` tries a part of
+# these there, and all of them without.
+sweep:
+	scripts/install-packages $(test_packages)
+	cmake --preset sanitize
+	cmake --build --preset sanitize -j $(JOBS) --target sweep_test
+	SWEEP_ALL=1 build/sanitize/bin/sweep_test
 
 # What the tests reach of the library and of the host: build/coverage/summary.txt and index.html.
 coverage:
