@@ -13,9 +13,10 @@ test_packages := $(run_packages) clang clang-format clang-tidy libclang-rt-14-de
 	libxslt1-dev valgrind python3 \
 	abigail-tools dpkg-dev fakeroot file fish man-db mandoc zsh
 docs_packages := python3 chromium chromium-driver
+proof_packages := $(test_packages) gcovr
 
-.PHONY: run test test-docs reference fuzz bench abi-baseline format format-check tidy generate test-release \
-	test-sanitize test-thread clean
+.PHONY: run test test-docs reference fuzz sweep bench coverage mutation abi-baseline format format-check tidy generate \
+	test-release test-sanitize test-thread clean
 
 run:
 	scripts/install-packages $(run_packages)
@@ -68,6 +69,30 @@ bench:
 	cmake --preset release
 	cmake --build --preset release -j $(JOBS) --target bench
 	bench/run.py --build build/release --rounds $(BENCH_ROUNDS)
+
+# Every operation of the platform failing in every exchange, with the sanitizers watching. `make test` tries a part of
+# these there, and all of them without.
+sweep:
+	scripts/install-packages $(test_packages)
+	cmake --preset sanitize
+	cmake --build --preset sanitize -j $(JOBS) --target sweep_test
+	SWEEP_ALL=1 build/sanitize/bin/sweep_test
+
+# What the tests reach of the library and of the host: build/coverage/summary.txt and index.html.
+coverage:
+	scripts/install-packages $(proof_packages)
+	cmake --preset coverage
+	find build/coverage -name '*.gcda' -delete
+	cmake --build --preset coverage -j $(JOBS)
+	ctest --preset coverage
+	scripts/coverage build/coverage
+
+# Whether the tests notice a library that is wrong in one place: `make mutation MUTATION="--count 50 --only peer.cpp"`.
+mutation:
+	scripts/install-packages $(proof_packages)
+	cmake --preset mutation
+	cmake --build --preset mutation -j $(JOBS)
+	scripts/mutation --build build/mutation $(MUTATION)
 
 format-check:
 	clang-format --dry-run -Werror $(SOURCES)

@@ -159,7 +159,7 @@ TEST(Sweep, EveryOperationFailsOnce)
     for (const Exchange &exchange : sweep::golden_set()) {
         const Trees trees(exchange);
         const Ended without = run(exchange, trees, 0);
-        const size_t step = std::max<size_t>(1, without.operations / sweep::most_points);
+        const size_t step = std::max<size_t>(1, without.operations / sweep::most_points());
         const size_t first = 1 + static_cast<size_t>(&exchange - sweep::golden_set().data()) % step;
         for (size_t number = first; number <= without.operations; number += step) {
             const Ended ended = run(exchange, trees, number);
