@@ -4,6 +4,7 @@
 
 #include "secrets.h"
 #include "tree.h"
+#include "vmf_map_platform.h"
 
 namespace cli {
 
@@ -26,6 +27,8 @@ static const char *constant_of_outcome(uint32_t outcome)
     case VMF_RC_UNSUPPORTED: return "VMF_RC_UNSUPPORTED";
     case VMF_RC_BAD_KEY: return "VMF_RC_BAD_KEY";
     case VMF_RC_KEY_OPERATION: return "VMF_RC_KEY_OPERATION";
+    case SYSDB_NOTHING_FOUND: return "SYSDB_NOTHING_FOUND";
+    case SYSDB_END_OF_PART: return "SYSDB_END_OF_PART";
     default: return "outcome";
     }
 }

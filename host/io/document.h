@@ -28,8 +28,8 @@ struct Document {
 // What bounds the memory that an input can take: its size in bytes, its elements or JSON values, and how deep they are
 // nested; and the longest tag name, tag with its attributes, and value, in bytes.
 constexpr size_t largest_input = size_t{256} << 20;
-constexpr size_t most_nodes = size_t{4} << 20;
-constexpr int deepest_nesting = 64;
+constexpr size_t most_nodes = size_t{16} << 20;
+constexpr size_t deepest_nesting = 64;
 constexpr size_t longest_name = 256;
 constexpr size_t longest_tag = size_t{64} << 10;
 constexpr size_t longest_value = size_t{64} << 10;

@@ -205,7 +205,7 @@ private:
     JsonValue root_;
     std::vector<JsonValue *> open_;  // from the root down
     size_t values_ = 0;
-    int objects_ = 0;
+    size_t objects_ = 0;
     const char *key_ = nullptr;
     bool qualified_ = false;
 };

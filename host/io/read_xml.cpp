@@ -1,17 +1,12 @@
-// Reads XML through the SAX2 interface of libxml2: the text stays whole in memory, so that a byte offset is enough to
-// say where something stands, and the tree is built as the elements come.
-#include <libxml/SAX2.h>
-#include <libxml/parserInternals.h>
-#include <strings.h>
-
+// Reads XML: the tree is built as the elements come.
 #include <algorithm>
-#include <exception>
-#include <memory>
+#include <utility>
 
 #include "document.h"
 #include "modules.h"
 #include "operation_names.h"
 #include "reading.h"
+#include "sax.h"
 #include "schema.h"
 #include "secrets.h"
 
@@ -29,18 +24,6 @@ enum class Role {
     skipped,            // read over, with all that stands below
 };
 
-struct Attribute {
-    std::string_view name;
-    const char *ns;  // null: none
-    std::string_view value;
-};
-
-struct Tag {
-    const char *name;
-    const char *ns;  // null: none
-    std::vector<Attribute> attributes;
-};
-
 struct Element {
     Role role;
     const char *tag;     // held by the parser
@@ -54,21 +37,12 @@ struct Element {
     std::string text = {};
 };
 
-struct Declaration {
-    const char *prefix;  // null: the default namespace
-    const char *ns;      // null: none
-};
-
 struct Reading {
-    std::string_view text;
-    const std::string &file;
+    XmlText xml;
     Document &document;
     Notes notes{document.notes};
-    xmlParserCtxtPtr parser = nullptr;
     std::vector<Element> open = {};
     std::vector<Declaration> declarations = {};
-    std::exception_ptr error = nullptr;  // what ended the reading
-    size_t element_count = 0;
     size_t innermost_holder = 0;             // where a tree should have stood, if none comes
     std::optional<size_t> foreign_bgp = {};  // where a `bgp` of another namespace stood,
     std::string foreign_namespace = {};      // and of which
@@ -78,7 +52,7 @@ struct Reading {
 
 [[noreturn]] void refuse(const Reading &reading, size_t offset, const std::string &reason)
 {
-    refuse_at(reading.text, offset, reading.file, reason);
+    refuse(reading.xml, offset, reason);
 }
 
 std::string shown(std::string_view tag) { return "<" + std::string(tag) + ">"; }
@@ -91,62 +65,7 @@ std::string shown(const Tag &tag)
 
 bool is_in(const char *ns, std::string_view wanted) { return ns != nullptr && ns == wanted; }
 
-// The number of bytes that the parser has passed.
-size_t read_so_far(const Reading &reading)
-{
-    const long consumed = xmlByteConsumed(reading.parser);
-    return std::min(static_cast<size_t>(std::max(consumed, 0L)), reading.text.size());
-}
-
-// Where the last `begin` stands of what the parser has passed.
-size_t last_passed(const Reading &reading, std::string_view begin)
-{
-    const size_t at = reading.text.substr(0, read_so_far(reading)).rfind(begin);
-    return at != std::string_view::npos ? at : 0;
-}
-
-// Where the tag begins that the parser is about to leave, or has just left: no other '<' can stand in it.
-size_t offset_of_tag(const Reading &reading) { return last_passed(reading, "<"); }
-
-bool in_secret(const Reading &reading) { return !reading.open.empty() && reading.open.back().is_secret; }
-
-// ---- Limits ---------------------------------------------------------------------------------
-
-std::string more_than(size_t limit) { return " of more than " + std::to_string(limit) + " bytes"; }
-
-void check_limits(const Reading &reading, const Tag &tag, size_t offset)
-{
-    if (reading.open.size() >= deepest_nesting)
-        refuse(reading, offset, "elements nested deeper than " + std::to_string(deepest_nesting));
-    if (reading.element_count > most_nodes)
-        refuse(reading, offset, "more than " + std::to_string(most_nodes) + " elements");
-    if (std::string_view(tag.name).size() > longest_name) refuse(reading, offset, "a name" + more_than(longest_name));
-}
-
-size_t end_of_tag(std::string_view text, size_t at)
-{
-    while ((at = text.find_first_of("\"'>", at)) != std::string_view::npos && text[at] != '>') {
-        at = text.find(text[at], at + 1);
-        if (at == std::string_view::npos) break;
-        at++;
-    }
-    return std::min(at, text.size());
-}
-
-// The parser's time for a tag grows with the square of its attributes. No '<' can stand in a tag, so that most need no
-// look of their own.
-void check_tag_lengths(const Reading &reading)
-{
-    const std::string_view text = reading.text;
-    for (size_t begin = text.find('<'); begin != std::string_view::npos;) {
-        const size_t next = text.find('<', begin + 1);
-        const bool is_long = std::min(next, text.size()) - begin > longest_tag;
-        const bool is_tag = text.substr(begin + 1, 1).find_first_of("!?") == std::string_view::npos;
-        if (is_long && is_tag && end_of_tag(text, begin) - begin > longest_tag)
-            refuse(reading, begin, "a tag" + more_than(longest_tag));
-        begin = next;
-    }
-}
+bool is_in_secret(const Reading &reading) { return !reading.open.empty() && reading.open.back().is_secret; }
 
 // ---- Values ---------------------------------------------------------------------------------
 
@@ -418,13 +337,14 @@ void give_role(Reading &reading, Element &element, const Tag &tag)
 
 // ---- Events ---------------------------------------------------------------------------------
 
-void open_element(Reading &reading, const Tag &tag, size_t outer_scope)
+void open_element(Reading &reading, const Tag &tag)
 {
-    const size_t offset = offset_of_tag(reading);
-    reading.element_count++;
-    check_limits(reading, tag, offset);
+    const size_t offset = offset_of_tag(reading.xml);
+    const size_t outer_scope = reading.declarations.size();
+    reading.declarations.insert(reading.declarations.end(), tag.declarations.begin(), tag.declarations.end());
     const char *parent = reading.open.empty() ? nullptr : reading.open.back().tag;
-    Element element = {Role::skipped, tag.name, offset, outer_scope, in_secret(reading) || is_secret(tag.name, parent)};
+    Element element = {Role::skipped, tag.name, offset, outer_scope,
+                       is_in_secret(reading) || is_secret(tag.name, parent)};
     give_role(reading, element, tag);
     reading.open.push_back(std::move(element));
 }
@@ -454,159 +374,6 @@ void read_text(Reading &reading, std::string_view text)
     if (!is_blank(text)) refuse(reading, element.offset, "text in " + shown(element.tag));
 }
 
-// The parser has passed the whole reference when it asks for the entity.
-[[noreturn]] void refuse_entity(const Reading &reading, std::string_view name)
-{
-    const std::string what = in_secret(reading) ? "an entity" : "the entity &" + std::string(name) + ";";
-    refuse(reading, last_passed(reading, "&"), what + " is not one of XML's own");
-}
-
-// Where an error of the parser stands. Of a tag it tells when it has passed the tag's end.
-size_t offset_of_error(const Reading &reading, const xmlError &error)
-{
-    const bool is_of_tag = error.code == XML_ERR_TAG_NAME_MISMATCH || error.domain == XML_FROM_NAMESPACE;
-    return is_of_tag ? offset_of_tag(reading) : read_so_far(reading);
-}
-
-[[noreturn]] void refuse_malformed(const Reading &reading, const xmlError &error)
-{
-    const std::string reason = in_secret(reading) || error.message == nullptr ? "" : ": " + std::string(error.message);
-    refuse(reading, offset_of_error(reading, error), "not well-formed XML" + reason);
-}
-
-// ---- The parser -----------------------------------------------------------------------------
-
-// Does the work of one callback. No exception goes through the parser: it is kept, and ends the reading.
-template<class Work>
-void guarded(void *data, Work work)
-{
-    auto &reading = *static_cast<Reading *>(data);
-    if (reading.error != nullptr) return;
-    try {
-        work(reading);
-    } catch (...) {
-        reading.error = std::current_exception();
-        xmlStopParser(reading.parser);
-    }
-}
-
-const char *as_text(const xmlChar *text) { return reinterpret_cast<const char *>(text); }
-
-const char *as_namespace(const xmlChar *ns) { return ns != nullptr && *ns != '\0' ? as_text(ns) : nullptr; }
-
-// Namespaces come in pairs of prefix and name.
-void declare(Reading &reading, const xmlChar **namespaces, int count)
-{
-    for (const xmlChar **pair = namespaces; count > 0; pair += 2, count--)
-        reading.declarations.push_back({as_text(pair[0]), as_namespace(pair[1])});
-}
-
-// Attributes come in fives: name, prefix, namespace, begin and end of the value.
-std::vector<Attribute> attributes_of(const xmlChar **attributes, int count)
-{
-    std::vector<Attribute> all;
-    for (const xmlChar **five = attributes; count > 0; five += 5, count--)
-        all.push_back(
-            {as_text(five[0]), as_namespace(five[2]), {as_text(five[3]), static_cast<size_t>(five[4] - five[3])}});
-    return all;
-}
-
-void on_start(void *data, const xmlChar *name, const xmlChar * /*prefix*/, const xmlChar *ns, int namespace_count,
-              const xmlChar **namespaces, int attribute_count, int /*defaulted*/, const xmlChar **attributes)
-{
-    guarded(data, [&](Reading &reading) {
-        const size_t outer_scope = reading.declarations.size();
-        declare(reading, namespaces, namespace_count);
-        open_element(reading, {as_text(name), as_namespace(ns), attributes_of(attributes, attribute_count)},
-                     outer_scope);
-    });
-}
-
-void on_end(void *data, const xmlChar * /*name*/, const xmlChar * /*prefix*/, const xmlChar * /*ns*/)
-{
-    guarded(data, close_element);
-}
-
-void on_text(void *data, const xmlChar *text, int length)
-{
-    guarded(data, [&](Reading &reading) { read_text(reading, {as_text(text), static_cast<size_t>(length)}); });
-}
-
-void on_doctype(void *data, const xmlChar * /*name*/, const xmlChar * /*external_id*/, const xmlChar * /*system_id*/)
-{
-    guarded(data,
-            [](Reading &reading) { refuse(reading, last_passed(reading, "<!DOCTYPE"), "a DOCTYPE is not read"); });
-}
-
-xmlEntityPtr on_entity(void *data, const xmlChar *name)
-{
-    guarded(data, [name](Reading &reading) { refuse_entity(reading, as_text(name)); });
-    return nullptr;
-}
-
-void on_error(void *data, xmlErrorPtr error)
-{
-    if (error->level < XML_ERR_ERROR) return;
-    guarded(data, [error](Reading &reading) { refuse_malformed(reading, *error); });
-}
-
-xmlSAXHandler handler()
-{
-    xmlSAXHandler handler = {};
-    handler.initialized = XML_SAX2_MAGIC;
-    handler.startElementNs = on_start;
-    handler.endElementNs = on_end;
-    handler.characters = on_text;
-    handler.ignorableWhitespace = on_text;
-    handler.cdataBlock = on_text;
-    handler.internalSubset = on_doctype;
-    handler.getEntity = on_entity;
-    handler.serror = on_error;
-    return handler;
-}
-
-// The name of the encoding in the XML declaration; empty if there is none, or if the parser will find it wrong.
-std::string_view declared_encoding(std::string_view text)
-{
-    if (trimmed(text.substr(0, 6)) != "<?xml") return {};
-    const std::string_view declaration = text.substr(0, text.find("?>"));
-    const size_t begin = declaration.find_first_of("\"'", declaration.find("encoding"));
-    if (begin == std::string_view::npos) return {};
-    const std::string_view rest = declaration.substr(begin + 1);
-    const size_t end = rest.find(declaration[begin]);
-    return end != std::string_view::npos ? rest.substr(0, end) : std::string_view();
-}
-
-// The parser would recode the text, and no offset would fit any more.
-void check_encoding(const Reading &reading)
-{
-    const std::string_view encoding = declared_encoding(reading.text);
-    const std::string name(encoding);
-    const auto is_called = [&name](const char *known) { return strcasecmp(name.c_str(), known) == 0; };
-    if (name.empty() || is_called("UTF-8") || is_called("US-ASCII")) return;
-    const auto offset = static_cast<size_t>(encoding.data() - reading.text.data());
-    refuse(reading, offset, "the encoding " + name + "; only UTF-8 is read");
-}
-
-struct FreeParser {
-    void operator()(xmlParserCtxtPtr parser) const { xmlFreeParserCtxt(parser); }
-};
-
-void parse(Reading &reading)
-{
-    const std::unique_ptr<xmlParserCtxt, FreeParser> parser(
-        xmlCreateMemoryParserCtxt(reading.text.data(), static_cast<int>(reading.text.size())));
-    if (parser == nullptr) throw std::bad_alloc();
-    *parser->sax = handler();
-    parser->userData = &reading;
-    reading.parser = parser.get();
-    // HUGE lifts the parser's limits on texts and depth: size and depth are bounded here. Without NOENT, attributes
-    // would come with "&#38;" for "&amp;".
-    xmlCtxtUseOptions(parser.get(), XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_IGNORE_ENC | XML_PARSE_NOENT);
-    xmlParseDocument(parser.get());
-    if (reading.error != nullptr) std::rethrow_exception(reading.error);
-}
-
 void check_bgp(const Reading &reading)
 {
     if (reading.has_bgp) return;
@@ -620,10 +387,8 @@ void check_bgp(const Reading &reading)
 Document read_xml(std::string_view text, const std::string &file)
 {
     Document document;
-    Reading reading = {.text = checked_text(text, file), .file = file, .document = document};
-    check_encoding(reading);
-    check_tag_lengths(reading);
-    parse(reading);
+    Reading reading = {.xml = XmlText(checked_text(text, file), file), .document = document};
+    parse_xml(reading);
     check_bgp(reading);
     Datatree &bgp = document.bgp.root();
     if (reading.replaces_by_default && !platform::has_operation(bgp)) platform::set_operation(bgp, VMF_OP_REPLACE);

@@ -82,6 +82,8 @@ std::string_view checked_text(std::string_view text, const std::string &file)
     return text;
 }
 
+std::string more_than(size_t limit) { return " of more than " + std::to_string(limit) + " bytes"; }
+
 void refuse_at(std::string_view text, size_t offset, const std::string &file, const std::string &reason)
 {
     const std::string_view before = text.substr(0, offset);

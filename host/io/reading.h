@@ -29,6 +29,9 @@ std::string on_one_line(std::string_view text);
 // would end the strings of a tree early.
 std::string_view checked_text(std::string_view text, const std::string &file);
 
+// " of more than 256 bytes"
+std::string more_than(size_t limit);
+
 // "FILE:LINE:COLUMN: reason" of a byte in the text; the column counts characters.
 [[noreturn]] void refuse_at(std::string_view text, size_t offset, const std::string &file, const std::string &reason);
 

@@ -97,7 +97,7 @@ TEST_F(Neighbors, TranslateAndADryRunPrintTheNotesToo)
 TEST_F(Neighbors, AThresholdThatHasNoLimitIsRefusedAndTheClientIsToldSo)
 {
     expect(run_ocbgp("edit -", limit_edit("<shutdown-threshold-pct nc:operation=\"delete\"/>")), 1,
-           "ocbgp: refused: outcome (0x00000002)\n"
+           "ocbgp: refused: SYSDB_NOTHING_FOUND (0x00000002)\n"
            "  reason: Failed to get the value for max-prefix from the candidate config.\n"
            "  path:   " +
                std::string(limit_path) + "/shutdown-threshold-pct\n");

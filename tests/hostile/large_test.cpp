@@ -52,12 +52,19 @@ TEST_F(Large, AGibibyteOfOperationalData)
 
 TEST_F(Large, MillionsOfElements)
 {
-    expect(std::string(bgp_tag) + "yes '<a/>' | head -n 5000000", "-:4194305:1: more than 4194304 elements");
+    expect(std::string(bgp_tag) + "yes '<a/>' | head -n 17000000", "-:16777217:1: more than 16777216 elements");
 }
 
 TEST_F(Large, MillionsOfJsonValues)
 {
-    expect("printf '{\"a:b\": ['; yes '0,' | head -n 5000000", "-: /a:b: more than 4194304 values");
+    expect("printf '{\"a:b\": ['; yes '0,' | head -n 17000000", "-: /a:b: more than 16777216 values");
+}
+
+TEST_F(Large, MillionsOfElementsOfOperationalData)
+{
+    expect(
+        "echo '<bgp xmlns=\"http://zorvex.example/ns/yang/Zorvex-ZR-ipv4-bgp-oper\">'; yes '<a/>' | head -n 17000000",
+        "-:16777217:1: more than 16777216 elements", "load-operational -");
 }
 
 TEST_F(Large, AValueOfManyMegabytes)
