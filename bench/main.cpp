@@ -6,6 +6,7 @@
 // peak, bytes a neighbor, if heap.cpp is preloaded, and null otherwise; `page_faults` how often a neighbor made the
 // kernel give the process memory that it had not touched before.
 #include <dlfcn.h>
+#include <malloc.h>
 #include <sys/resource.h>
 
 #include <cstdio>
@@ -59,6 +60,7 @@ int main(int argc, char **argv)
     if (kind == nullptr || count == 0 || (!forward && std::strcmp(argv[2], "back") != 0)) return usage();
 
     const std::unique_ptr<bench::Peer> peer = kind->make(forward ? bench::Way::forward : bench::Way::back, count);
+    malloc_trim(0);  // what building the input has left behind is no peer's: the target's memory is new to all
     auto *heap = reinterpret_cast<decltype(&bench_heap)>(dlsym(RTLD_DEFAULT, "bench_heap"));
     bench_heap_figures held = {};
     if (heap != nullptr) heap(&held);
