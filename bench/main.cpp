@@ -3,8 +3,11 @@
 //   bench_peer PEER forward|back NEIGHBORS [--tree]
 //
 // `us` is CPU time of the work, in microseconds a neighbor. `heap_bytes` is what the heap holds of the target at its
-// peak, bytes a neighbor, if heap.cpp is preloaded, and null otherwise.
+// peak, bytes a neighbor, if heap.cpp is preloaded, and null otherwise; `page_faults` how often a neighbor made the
+// kernel give the process memory that it had not touched before.
 #include <dlfcn.h>
+#include <malloc.h>
+#include <sys/resource.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -24,6 +27,13 @@ extern "C" void bench_work(bench::Peer &peer)
 }
 
 namespace {
+
+long page_faults()
+{
+    rusage usage;
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_minflt;
+}
 
 const bench::PeerKind *find(const char *name)
 {
@@ -50,13 +60,16 @@ int main(int argc, char **argv)
     if (kind == nullptr || count == 0 || (!forward && std::strcmp(argv[2], "back") != 0)) return usage();
 
     const std::unique_ptr<bench::Peer> peer = kind->make(forward ? bench::Way::forward : bench::Way::back, count);
+    malloc_trim(0);  // what building the input has left behind is no peer's: the target's memory is new to all
     auto *heap = reinterpret_cast<decltype(&bench_heap)>(dlsym(RTLD_DEFAULT, "bench_heap"));
     bench_heap_figures held = {};
     if (heap != nullptr) heap(&held);
     const size_t bytes_before = held.now;
+    const long faults_before = page_faults();
     const double before = bench::cpu_seconds();
     bench_work(*peer);
     const double seconds = bench::cpu_seconds() - before;
+    const long faults = page_faults() - faults_before;
     if (heap != nullptr) heap(&held);
 
     if (argc == 5 && std::strcmp(argv[4], "--tree") == 0) std::fputs(peer->text().c_str(), stdout);
@@ -64,6 +77,7 @@ int main(int argc, char **argv)
     std::printf("{\"peer\": \"%s\", \"way\": \"%s\", \"neighbors\": %zu, \"us\": %.4f, ", argv[1], argv[2], count,
                 seconds * 1e6 / neighbors);
     std::printf("\"nodes_in\": %zu, \"nodes_out\": %zu, ", peer->nodes_in() / count, peer->nodes_out() / count);
+    std::printf("\"page_faults\": %.3f, ", static_cast<double>(faults) / neighbors);
     if (heap != nullptr)
         std::printf("\"heap_bytes\": %.1f}\n", static_cast<double>(held.peak - bytes_before) / neighbors);
     else

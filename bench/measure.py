@@ -3,6 +3,7 @@
 import json
 import os
 import pathlib
+import re
 import subprocess
 import tempfile
 
@@ -68,7 +69,7 @@ class Profile:
                 self.instructions = int(line.split()[1])
             elif line.startswith(("fn=", "cfn=")):
                 number, _, name = line.split("=", 1)[1].partition(" ")
-                names.setdefault(number, name)
+                names.setdefault(number, re.sub(r"'\d+$", "", name))  # as deep as it may stand in itself
                 if line.startswith("fn="):
                     function = names[number]
                 else:

@@ -22,9 +22,9 @@ COLORS = {
     "libxslt": "#7b2cbf",
 }
 TITLES = {"forward": "forward: OpenConfig to native", "back": "way back: native to OpenConfig"}
-WIDTH, HEIGHT = 1120, 520
+WIDTH, HEIGHT = 1170, 520
 PANEL_WIDTH, PANEL_HEIGHT, TOP = 330, 390, 70
-LEFT = {"forward": 70, "back": 625}
+LEFT = {"forward": 70, "back": 640}
 LABEL_SPACE = 16
 
 

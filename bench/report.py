@@ -148,9 +148,12 @@ def instructions_table(figures):
 
 
 def heap_table(figures):
-    return table(["peer", *WAYS.values()],
-                 [[NAMES[peer], *(f"{held[way]:,.0f}" for way in WAYS)]
-                  for peer, held in figures.all["heap"]["target"].items()])
+    head = ["peer"]
+    for way in WAYS.values():
+        head += [f"{way}, bytes", "page faults"]
+    faults = figures.all["heap"]["page_faults"]
+    return table(head, [[NAMES[peer], *(cell for way in WAYS for cell in (f"{held[way]:,.0f}", f"{faults[peer][way]:.2f}"))]
+                        for peer, held in figures.all["heap"]["target"].items()])
 
 
 def finds_table(figures):
@@ -167,8 +170,7 @@ def threads_table(figures):
 
 def calls_table(figures):
     names = list(next(iter(figures.all["profiles"].values()))["calls"])
-    shown = {"vmf_map_do_these_match": "comparisons", "vmf_debug_should_log": "log tests",
-             "vmf_map_get_subtrees": "asked for children"}
+    shown = {"vmf_map_do_these_match": "comparisons", "vmf_debug_should_log": "log tests"}
     rows = [[profile, *(f"{of['calls'][name]:.0f}" for name in names)]
             for profile, of in figures.all["profiles"].items() if profile.startswith("ours")]
     return table(["", *(shown.get(name, name) for name in names)],
@@ -181,8 +183,9 @@ def profile_table(profile):
 
 
 def short(function):
-    name = function.split("(")[0] if function.startswith(("std::", "platform::")) else function
-    return name if len(name) <= 90 else name[:87] + "..."
+    """A function's name without its arguments."""
+    name, bracket, _ = function.replace("(anonymous namespace)", "{anonymous}").partition("(")
+    return name + ("()" if bracket else "")
 
 
 # ---- The document ---------------------------------------------------------------------------
@@ -201,15 +204,16 @@ def markdown(raw, notes):
 What the mapping costs, beside other ways to do the same work. Everything here is written by `make bench`; what is said
 by hand lies in `performance-notes.md`.
 
-Measured on {on['date']}, commit {on['commit']}: {on['cpu']}, {on['cores']} cores, Linux {on['kernel']}, load {on['load']:.1f}
-at the start; {on['compiler']}, {on['build']}; {on['libraries']}.
+Measured on {on['date']}, commit {on['commit']}: {on['cpu']}, {on['cores']} cores, Linux {on['kernel']}, load
+{on['load']:.1f} at the start; {on['compiler']}, {on['build']};
+{on['libraries']}.
 
 ## The work
 
 N neighbors, as an operator has them: key, configuration of five leaves, three timers, three leaves of transport,
 multihop, graceful restart with three leaves, and two families with their policies and prefix limits. That is 54 nodes in
 and 52 native nodes out for a neighbor, and on the way back 51 native nodes in and 97 out. Both trees of a peer are in
-memory; nothing is freed or printed while the clock runs.
+memory; nothing is freed, printed or bound by the loader while the clock runs.
 
 - **L** is the library as a shared object with the embedded platform; every log test stands, both channels are off.
 - **W** is the same library over tree operations that do nothing: the mapping alone. L and W are never mixed.
@@ -228,7 +232,7 @@ A test compares the trees of all of them with the library's.
 
 {own_words}## CPU time
 
-Microseconds a neighbor: median of {runs} fresh processes that took turns, with the minimum in brackets.
+Microseconds a neighbor: the median of {runs} runs in fresh processes, which took turns, with the minimum in brackets.
 
 {times_table(figures, "forward")}
 
@@ -247,7 +251,9 @@ What L asks of the platform for a neighbor:
 
 ## Memory
 
-Bytes of the target a neighbor at the peak, of 10,000 neighbors, as malloc lays its blocks out.
+Bytes of the target a neighbor at the peak, of 10,000 neighbors, as malloc lays its blocks out. Memory that a process has
+not touched before comes page by page out of the kernel, in every peer's time: beside each are the page faults a
+neighbor.
 
 {heap_table(figures)}
 

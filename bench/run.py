@@ -89,7 +89,7 @@ def measure_instructions(build):
 def measure_profiles(build, top=12):
     """What the functions of a run take themselves, and how often the platform is asked, each a neighbor's."""
     say("profiles")
-    asked = ("vmf_map_do_these_match", "vmf_debug_should_log", "vmf_map_get_subtrees")
+    asked = ("vmf_map_do_these_match", "vmf_debug_should_log")
     profiles = {}
     for peer in OWN:
         for way in measure.WAYS:
@@ -106,13 +106,14 @@ def measure_profiles(build, top=12):
 
 
 def measure_heap(build):
-    """Bytes a neighbor at the peak, and of the mapping alone all bytes."""
+    """Bytes and page faults a neighbor, and of the mapping alone all bytes."""
     say("memory")
     target = {peer: {way: build.heap_bytes(peer, way, TRIP) for way in measure.WAYS}
               for peer in build.peers() if peer != "mapping"}
     mapping = {way: {neighbors: build.heap_bytes("mapping", way, neighbors) * neighbors for neighbors in NEIGHBORS}
                for way in measure.WAYS}
-    return {"target": target, "mapping": mapping}
+    faults = {peer: {way: build.run(peer, way, TRIP)["page_faults"] for way in measure.WAYS} for peer in target}
+    return {"target": target, "mapping": mapping, "page_faults": faults}
 
 
 def measure_finds(build, rounds):
