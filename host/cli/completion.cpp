@@ -95,6 +95,7 @@ std::string joined(const std::vector<std::string> &words, const char *between)
 std::vector<std::string> names_of(const std::vector<Described> &commands)
 {
     std::vector<std::string> names;
+    names.reserve(commands.size());
     for (const Described &command : commands) names.push_back(command.name);
     return names;
 }

@@ -2,7 +2,9 @@
 # Completes commands, options and values in bash, zsh and fish, with what the command said of itself.
 #   completion_test.sh OCBGP COMPLETIONS_FOLDER
 set -eu
-export PATH="$(dirname "$1"):$PATH" OCBGP=$1
+PATH=$(dirname "$1"):$PATH
+OCBGP=$1
+export PATH OCBGP
 completions=$2
 here=$(cd "$(dirname "$0")" && pwd)
 failed=0
@@ -65,8 +67,14 @@ expect bash "ocbgp translate --format=j" json
 expect bash "ocbgp init --wait " ""
 
 # Every command, and every option of each, in the shell that answers at once.
+# shellcheck disable=SC2046
 expect bash "ocbgp " $(commands_with "")
 for command in $(commands_with ""); do
+    # shellcheck disable=SC2046
     expect bash "ocbgp $command --" $(options_with "$command" --)
 done
+
+code=0
+"$OCBGP" --completion tcsh >/dev/null 2>&1 || code=$?
+[ $code = 64 ] || { echo "a shell without completion gives the exit code $code"; failed=1; }
 exit $failed

@@ -6,6 +6,7 @@ cpack=$1
 build=$2
 scratch=$3
 version=$4
+export PATH="$PATH:/usr/sbin:/sbin" # where dpkg looks for ldconfig, which others than root seldom have
 fail() {
     echo "$*"
     exit 1

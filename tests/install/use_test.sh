@@ -43,7 +43,8 @@ configure() {
         -DCMAKE_PREFIX_PATH="$scratch/moved" "$@" >cmake.log 2>&1
 }
 
-configure built "-DWANTED=$version" && "$cmake" --build consumer/built >cmake.log 2>&1 || { cat cmake.log; exit 1; }
+configure built "-DWANTED=$version" || { cat cmake.log; fail "CMake does not find the library"; }
+"$cmake" --build consumer/built >cmake.log 2>&1 || { cat cmake.log; fail "the program does not build"; }
 env -i consumer/built/consumer >said
 hold "the program built by CMake" "$consumer/said.txt"
 
