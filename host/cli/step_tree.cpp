@@ -51,7 +51,7 @@ private:
         switch (step.kind) {
         case Step::Kind::function: return write_function(step, depth, outer);
         case Step::Kind::add: return write_add(step, depth);
-        case Step::Kind::query: return write_line(depth, paint_.aside, "? ", "system database: " + step.name);
+        case Step::Kind::query: return write_query(step, depth);
         case Step::Kind::flag: return write_line(depth, paint_.flagged, "~ ", step.name + " = " + step.value);
         case Step::Kind::error: return write_line(depth, paint_.refused, "! ", step.name);
         case Step::Kind::remark: return write_line(depth, paint_.aside, "- ", step.name);
@@ -97,6 +97,20 @@ private:
         out_ += "\n";
     }
 
+    void write_query(const Step &step, size_t depth)
+    {
+        write_line(depth, paint_.aside, "? ", step.name);
+        const size_t at = query_++;
+        if (style_.queries == nullptr || at >= style_.queries->size()) return;
+        const framework::Query &query = (*style_.queries)[at];
+        if (query.records.empty()) write_line(depth + 1, paint_.aside, "", "nothing found");
+        for (const platform::DatabaseRecord &record : query.records) {
+            std::string line = record.location;
+            for (const uint32_t word : record.words) line += " " + std::to_string(word);
+            write_line(depth + 1, paint_.aside, "", line);
+        }
+    }
+
     void write_add(const Step &step, size_t depth)
     {
         const std::string what = step.name + value_of(step) + operation_of(step);
@@ -129,6 +143,7 @@ private:
     const Paint &paint_;
     std::string out_;
     std::unordered_set<std::string> added_;
+    size_t query_ = 0;
 };
 
 const char *word_of(Step::Kind kind)

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "walk_recorder.h"
+#include "recording.h"
 #include "write.h"
 
 namespace cli {
@@ -13,7 +13,8 @@ namespace cli {
 struct StepStyle {
     bool is_coloured = false;
     io::Secrets secrets = io::Secrets::hidden;
-    std::vector<std::string> passwords = {};  // that the mapping may quote, where secrets are hidden
+    const std::vector<framework::Query> *queries = nullptr;  // of the walk, with what was answered; null: not told
+    std::vector<std::string> passwords = {};                 // that the mapping may quote, where secrets are hidden
 };
 
 // `walk` is what WalkRecorder::take gave. "+" is an add, "~" a flag of the request's record, "?" a query of the system

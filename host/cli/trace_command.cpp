@@ -65,6 +65,7 @@ void print(const framework::Recording &recording, const TraceOptions &options)
 {
     const StepStyle style = {.is_coloured = wants_colours(options.colour) && !options.as_json,
                              .secrets = options.secrets,
+                             .queries = &recording.queries,
                              .passwords = passwords_of(recording, options.secrets)};
     if (options.as_json) {
         const framework::Step *answer = recording.was_answered ? &recording.way_back : nullptr;

@@ -2,57 +2,16 @@
 
 #include <algorithm>
 #include <map>
-#include <set>
 #include <unordered_map>
-#include <unordered_set>
 
 #include "get_request.h"
+#include "mapped_again.h"
+#include "native_leaves.h"
 #include "nodes.h"
-#include "reading.h"
-#include "secrets.h"
-#include "tree_text.h"
 
 namespace framework {
 
 namespace {
-
-// ---- Trees ----------------------------------------------------------------------------------
-
-std::string_view tag_of(const Datatree &node)
-{
-    const char *tag = platform::tag_of(node);
-    return tag != nullptr ? tag : "";
-}
-
-const Datatree *child_of(const Datatree *node, std::string_view tag)
-{
-    if (node == nullptr) return nullptr;
-    for (const Datatree &child : platform::children_of(*node))
-        if (tag_of(child) == tag) return &child;
-    return nullptr;
-}
-
-bool is_same_value(const Datatree &a, const Datatree &b)
-{
-    const char *one = platform::value_of(a);
-    const char *other = platform::value_of(b);
-    return one != nullptr && other != nullptr && std::string_view(one) == other;
-}
-
-std::string quoted(std::string_view value)
-{
-    const char quote = value.find('\'') == std::string_view::npos ? '\'' : '"';
-    return quote + std::string(value) + quote;
-}
-
-std::string shown(const Datatree &leaf, std::string_view parent, io::Secrets secrets)
-{
-    const char *value = platform::value_of(leaf);
-    if (value == nullptr) return "";
-    const bool hides =
-        secrets == io::Secrets::hidden && io::is_secret(platform::tag_of(leaf), std::string(parent).c_str());
-    return " = " + (hides ? std::string(io::hidden_value) : io::on_one_line(value));
-}
 
 // ---- The model ------------------------------------------------------------------------------
 
@@ -83,135 +42,6 @@ bool has_element(std::string_view path, std::string_view element)
         if (at > 0 && path[at - 1] == '/' && (end == path.size() || path[end] == '/')) return true;
     }
     return false;
-}
-
-// ---- Asking again ---------------------------------------------------------------------------
-
-platform::Tree copy_of(const Datatree &holder) { return io::read_tree(io::write_tree(holder, io::Secrets::shown)); }
-
-// What the mapping makes of another request, or of another answer to the same one.
-class Again {
-public:
-    Again(uint32_t kind, const platform::Database &database, io::Document document)
-        : request_(kind, database, log_), document_(std::move(document))
-    {
-        outcome_ = request_.map(document_.bgp.root(), native_.root());
-    }
-
-    uint32_t outcome() const { return outcome_; }
-    const Datatree &native() const { return native_.root(); }
-
-    std::string answer_to(platform::Tree response)
-    {
-        platform::Tree answer;
-        if (request_.answer(std::move(response), answer) != VMF_RC_OK) return "refused";
-        return io::write_tree(answer.root(), io::Secrets::shown);
-    }
-
-private:
-    platform::Log log_;
-    Request request_;
-    io::Document document_;
-    platform::Tree native_;
-    uint32_t outcome_;
-};
-
-io::Document copy_of_request(const io::Document &document)
-{
-    Datatree holder = {};  // borrows the request
-    holder.subtrees = const_cast<Datatree *>(&document.bgp.root());
-    holder.subtree_count = 1;
-    holder.present[0] = VMF_DT_SUBTREES;
-    platform::Tree copy = copy_of(holder);
-    io::Document again;
-    std::swap(again.bgp.root(), platform::children_of(copy.root()).front());
-    return again;
-}
-
-// ---- Native leaves --------------------------------------------------------------------------
-
-struct NativeLeaf {
-    const Datatree *leaf;
-    std::string path;    // with the keys of the entries above
-    std::string schema;  // without
-    std::string_view parent;
-};
-
-// The first leaf of an entry is its key in the native trees; what repeats is an entry.
-std::string name_in(const Datatree &node, const Datatree &parent)
-{
-    std::string name(tag_of(node));
-    const auto children = platform::children_of(node);
-    const bool has_key = !children.empty() && platform::children_of(children.front()).empty() &&
-                         platform::value_of(children.front()) != nullptr;
-    const auto siblings = platform::children_of(parent);
-    const auto alike = std::count_if(siblings.begin(), siblings.end(),
-                                     [&](const Datatree &sibling) { return tag_of(sibling) == tag_of(node); });
-    const bool ends_as_key =
-        has_key && (tag_of(children.front()).ends_with("-name") || tag_of(children.front()).ends_with("-address"));
-    if (has_key && (alike > 1 || ends_as_key))
-        name += "[" + std::string(tag_of(children.front())) + "=" + quoted(platform::value_of(children.front())) + "]";
-    return name;
-}
-
-void collect_leaves(const Datatree &node, const Datatree &parent, const std::string &above,
-                    const std::string &schema_above, std::vector<NativeLeaf> &leaves)
-{
-    const std::string path = above + "/" + name_in(node, parent);
-    const std::string schema = schema_above + "/" + std::string(tag_of(node));
-    if (platform::children_of(node).empty()) leaves.push_back({&node, path, schema, tag_of(parent)});
-    for (const Datatree &child : platform::children_of(node)) collect_leaves(child, node, path, schema, leaves);
-}
-
-// The two native trees have roots of one name.
-std::string model_of(const Datatree &tree)
-{
-    const char *ns = platform::namespace_of(tree);
-    return ns != nullptr ? std::string(io::short_name(ns)) : "";
-}
-
-std::string schema_of_root(const Datatree &tree) { return model_of(tree) + "/" + std::string(tag_of(tree)); }
-
-std::vector<NativeLeaf> leaves_below(const Datatree &holder)
-{
-    std::vector<NativeLeaf> leaves;
-    for (const Datatree &tree : platform::children_of(holder)) collect_leaves(tree, holder, "", model_of(tree), leaves);
-    return leaves;
-}
-
-void take_leaves(const Datatree &node, std::unordered_set<const Datatree *> &leaves)
-{
-    if (platform::children_of(node).empty()) leaves.insert(&node);
-    for (const Datatree &child : platform::children_of(node)) take_leaves(child, leaves);
-}
-
-// What a native request selects of a response: as a subtree filter does (RFC 6241, section 6), but for entries and
-// containers that the mapping added on the way to something, which would select all that they hold.
-void select(const Datatree &request, const Datatree &response, std::unordered_set<const Datatree *> &selected)
-{
-    const auto wanted = platform::children_of(request);
-    for (const Datatree &match : wanted) {
-        if (platform::value_of(match) == nullptr) continue;
-        const Datatree *own = child_of(&response, tag_of(match));
-        if (own == nullptr || !is_same_value(match, *own)) return;
-    }
-    if (wanted.empty() && platform::is_selected(request)) take_leaves(response, selected);
-    for (const Datatree &child : platform::children_of(response))
-        for (const Datatree &one : wanted)
-            if (platform::value_of(one) == nullptr && tag_of(one) == tag_of(child)) select(one, child, selected);
-}
-
-std::unordered_set<const Datatree *> selected_leaves(const Datatree &request, const Datatree &response)
-{
-    std::unordered_set<const Datatree *> selected;
-    for (const Datatree &asked : platform::children_of(request))
-        for (const Datatree &given : platform::children_of(response)) {
-            const char *ns = platform::namespace_of(given);
-            const char *asked_ns = platform::namespace_of(asked);
-            if (ns != nullptr && asked_ns != nullptr && std::string_view(ns) == asked_ns)
-                select(asked, given, selected);
-        }
-    return selected;
 }
 
 // ---- Families that disagree -----------------------------------------------------------------
@@ -248,7 +78,7 @@ std::map<std::string_view, std::string> values_of_families(const std::vector<Nat
             platform::value_of(*leaf.leaf) == nullptr)
             continue;
         for (const std::string_view family : folded_families)
-            if (leaf.path.find("[af-name=" + quoted(family) + "]") != std::string::npos)
+            if (leaf.path.find("[af-name=" + in_quotes(family) + "]") != std::string::npos)
                 values[family] = platform::value_of(*leaf.leaf);
     }
     return values;
@@ -279,14 +109,14 @@ public:
     Search(const Recording &recording, const platform::Database &database,
            const std::function<std::optional<std::string>(std::string_view)> &default_of, io::Secrets secrets)
         : recording_(recording), database_(database), default_of_(default_of), secrets_(secrets),
-          leaves_(leaves_below(recording.response.root()))
+          leaves_(native_leaves(recording.response.root())), selector_(recording.response.root())
     {
     }
 
     std::vector<MissingNode> run()
     {
         const model::OcNode *bgp = model::find_oc_node("/bgp");
-        const Datatree *answer = child_of(&recording_.answer.root(), "bgp");
+        const Datatree *answer = find_child(&recording_.answer.root(), "bgp");
         visit(*bgp, {{answer, "/bgp"}}, &recording_.request.bgp.root(), found_);
         return std::move(found_);
     }
@@ -306,7 +136,7 @@ private:
         size_t asked = 0;
         std::vector<MissingNode> below;
         for (const model::OcNode *child : asked_children(node, request)) {
-            const Datatree *wanted = request != nullptr ? child_of(request, last_element(child->path)) : nullptr;
+            const Datatree *wanted = request != nullptr ? find_child(request, last_element(child->path)) : nullptr;
             asked += child->kind == model::Kind::list ? visit_list(*child, instances, request, below)
                                                       : visit(*child, instances_of(*child, instances), wanted, below);
         }
@@ -333,7 +163,7 @@ private:
         const bool names = request != nullptr && names_any(node, *request);
         for (const model::OcNode *child : children->second) {
             if (!child->config && recording_.kind == VMF_REQ_GET_CONFIG) continue;
-            if (!names || child_of(request, last_element(child->path)) != nullptr) asked.push_back(child);
+            if (!names || find_child(request, last_element(child->path)) != nullptr) asked.push_back(child);
         }
         return asked;
     }
@@ -343,7 +173,7 @@ private:
     {
         const auto children = platform::children_of(request);
         return std::any_of(children.begin(), children.end(),
-                           [&](const Datatree &child) { return node.key.empty() || tag_of(child) != node.key; });
+                           [&](const Datatree &child) { return node.key.empty() || tag_text(child) != node.key; });
     }
 
     static Instances instances_of(const model::OcNode &child, const Instances &parents)
@@ -351,7 +181,7 @@ private:
         const std::string_view tag = last_element(child.path);
         Instances instances;
         for (const Instance &parent : parents)
-            instances.push_back({child_of(parent.node, tag), parent.path + "/" + std::string(tag)});
+            instances.push_back({find_child(parent.node, tag), parent.path + "/" + std::string(tag)});
         return instances;
     }
 
@@ -362,7 +192,7 @@ private:
         std::vector<const Datatree *> wanted;
         if (request != nullptr)
             for (const Datatree &entry : platform::children_of(*request))
-                if (tag_of(entry) == tag) wanted.push_back(&entry);
+                if (tag_text(entry) == tag) wanted.push_back(&entry);
         if (wanted.empty()) wanted.push_back(nullptr);
         size_t asked = 0;
         for (const Datatree *entry : wanted) asked += visit_entries(list, parents, entry, found);
@@ -373,7 +203,7 @@ private:
                          std::vector<MissingNode> &found)
     {
         const std::string_view tag = last_element(list.path);
-        const Datatree *wanted_key = child_of(request, list.key);
+        const Datatree *wanted_key = find_child(request, list.key);
         const bool names_entry = wanted_key != nullptr && platform::value_of(*wanted_key) != nullptr;
         Instances entries;
         std::vector<std::string> without;  // the parents that have no such entry
@@ -381,16 +211,16 @@ private:
             const size_t before = entries.size();
             const auto children = parent.node != nullptr ? platform::children_of(*parent.node) : std::span<Datatree>();
             for (const Datatree &child : children) {
-                const Datatree *key = child_of(&child, list.key);
-                if (tag_of(child) != tag || (names_entry && (key == nullptr || !is_same_value(*wanted_key, *key))))
+                const Datatree *key = find_child(&child, list.key);
+                if (tag_text(child) != tag || (names_entry && (key == nullptr || !has_same_value(*wanted_key, *key))))
                     continue;
                 const char *value = key != nullptr ? platform::value_of(*key) : nullptr;
                 const std::string predicate =
-                    value != nullptr ? "[" + std::string(list.key) + "=" + quoted(value) + "]" : "";
+                    value != nullptr ? "[" + std::string(list.key) + "=" + in_quotes(value) + "]" : "";
                 entries.push_back({&child, parent.path + "/" + std::string(tag) + predicate});
             }
             const std::string predicate =
-                names_entry ? "[" + std::string(list.key) + "=" + quoted(platform::value_of(*wanted_key)) + "]" : "";
+                names_entry ? "[" + std::string(list.key) + "=" + in_quotes(platform::value_of(*wanted_key)) + "]" : "";
             if (entries.size() == before) without.push_back(parent.path + "/" + std::string(tag) + predicate);
         }
         if (!without.empty()) add_entry_missing(list, without, found);
@@ -478,16 +308,16 @@ private:
             return std::nullopt;  // a key that no path can quote
         }
         io::complete_keys(*document);
-        const Again alone(recording_.kind, database_, std::move(*document));
+        const MappedAgain alone(recording_.kind, database_, std::move(*document));
         if (alone.outcome() != VMF_RC_OK) return std::nullopt;
-        const auto selected = selected_leaves(alone.native(), recording_.response.root());
+        const auto selected = selector_.leaves(alone.native());
         if (selected.empty()) return std::nullopt;
         std::string words;
         size_t others = 0;
         for (const NativeLeaf &leaf : leaves_) {
             if (!selected.contains(leaf.leaf)) continue;
             if (words.empty())
-                words = leaf.path + shown(*leaf.leaf, leaf.parent, secrets_);
+                words = shown(leaf, secrets_);
             else
                 others++;
         }
@@ -500,92 +330,9 @@ private:
     const std::function<std::optional<std::string>(std::string_view)> &default_of_;
     const io::Secrets secrets_;
     const std::vector<NativeLeaf> leaves_;
+    Selector selector_;
     std::vector<MissingNode> found_;
 };
-
-// ---- What is dropped ------------------------------------------------------------------------
-
-// The native leaves for which a handler ran, with what it said.
-void collect_handled(const Step &step, std::unordered_map<const Datatree *, const Step *> &handled)
-{
-    if (step.kind == Step::Kind::function && !step.walks && step.at != nullptr) handled.emplace(step.at, &step);
-    for (const Step &inner : step.steps) collect_handled(inner, handled);
-}
-
-bool adds_any(const Step &step)
-{
-    return std::any_of(step.steps.begin(), step.steps.end(), [](const Step &inner) {
-        return (inner.kind == Step::Kind::add && !inner.failed) || adds_any(inner);
-    });
-}
-
-// Halves of a number, and the names that every native path goes by.
-bool says_nothing_itself(const NativeLeaf &leaf)
-{
-    constexpr std::string_view names[] = {"as", "as-xx", "instance-name", "bgp-running"};
-    return std::find(std::begin(names), std::end(names), tag_of(*leaf.leaf)) != std::end(names);
-}
-
-// Takes the leaves of a schema path out.
-void take_out(Datatree &node, const std::string &schema, const std::string &wanted)
-{
-    int32_t kept = 0;
-    for (Datatree &child : platform::children_of(node)) {
-        const std::string path = schema + "/" + std::string(tag_of(child));
-        take_out(child, path, wanted);
-        if (path == wanted)
-            platform::release(child);
-        else
-            std::swap(node.subtrees[kept++], child);
-    }
-    if (kept < node.subtree_count) node.subtree_count = kept;
-}
-
-// Whether anything comes of the native leaves of a schema path: in the answer to the request, or in that to a read of
-// everything.
-class Influence {
-public:
-    Influence(const Recording &recording, const platform::Database &database)
-        : recording_(recording), database_(database)
-    {
-    }
-
-    bool has(const std::string &schema)
-    {
-        if (with_.empty())
-            for (const Read read : reads) with_.push_back(answer(read, copy_of(recording_.response.root())));
-        for (size_t at = 0; at < std::size(reads); at++) {
-            platform::Tree without = copy_of(recording_.response.root());
-            for (Datatree &tree : platform::children_of(without.root())) take_out(tree, schema_of_root(tree), schema);
-            if (answer(reads[at], std::move(without)) != with_[at]) return true;
-        }
-        return false;
-    }
-
-private:
-    enum class Read : uint8_t { as_asked, everything };
-    static constexpr Read reads[] = {Read::as_asked, Read::everything};
-
-    std::string answer(Read read, platform::Tree response) const
-    {
-        const bool is_as_asked = read == Read::as_asked;
-        Again again(is_as_asked ? recording_.kind : uint32_t{VMF_REQ_GET}, database_,
-                    is_as_asked ? copy_of_request(recording_.request) : io::read_path("/bgp"));
-        return again.answer_to(std::move(response));
-    }
-
-    const Recording &recording_;
-    const platform::Database &database_;
-    std::vector<std::string> with_;
-};
-
-std::string reason_of(const Step &handler)
-{
-    for (const Step &step : handler.steps)
-        if (step.kind == Step::Kind::remark || step.kind == Step::Kind::error)
-            return handler.name + " says: " + step.name;
-    return handler.name + " makes nothing of it";
-}
 
 }  // namespace
 
@@ -594,43 +341,6 @@ missing_nodes(const Recording &recording, const platform::Database &database,
               const std::function<std::optional<std::string>(std::string_view schema)> &default_of, io::Secrets secrets)
 {
     return Search(recording, database, default_of, secrets).run();
-}
-
-std::vector<std::string> dropped_values(const Recording &recording, const platform::Database &database,
-                                        io::Secrets secrets)
-{
-    std::unordered_map<const Datatree *, const Step *> handled;
-    collect_handled(recording.way_back, handled);
-
-    struct Silent {
-        const NativeLeaf *first;
-        const Step *handler;  // null: none
-        size_t count;
-    };
-    std::vector<std::string> order;
-    std::map<std::string, Silent> by_schema;
-    const std::vector<NativeLeaf> leaves = leaves_below(recording.response.root());
-    for (const NativeLeaf &leaf : leaves) {
-        const auto found = handled.find(leaf.leaf);
-        const Step *handler = found != handled.end() ? found->second : nullptr;
-        if ((handler != nullptr && adds_any(*handler)) || says_nothing_itself(leaf)) continue;
-        const auto [place, is_new] = by_schema.try_emplace(leaf.schema, Silent{&leaf, handler, 0});
-        place->second.count++;
-        if (is_new) order.push_back(leaf.schema);
-    }
-
-    std::vector<std::string> lines;
-    Influence influence(recording, database);
-    for (const std::string &schema : order) {
-        const Silent &silent = by_schema.at(schema);
-        // It may be held for another leaf, or be kept out of this answer only because nobody asked for it.
-        if (silent.handler != nullptr && influence.has(schema)) continue;
-        std::string line = silent.first->path + shown(*silent.first->leaf, silent.first->parent, secrets) + ": " +
-                           (silent.handler != nullptr ? reason_of(*silent.handler) : "no handler takes it");
-        if (silent.count > 1) line += " (and so " + std::to_string(silent.count - 1) + " more)";
-        lines.push_back(std::move(line));
-    }
-    return lines;
 }
 
 }  // namespace framework

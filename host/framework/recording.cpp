@@ -33,6 +33,31 @@ platform::Log log_into(platform::TraceBuffer &trace)
 
 }  // namespace
 
+platform::Tree copy_of(const Datatree &holder)
+{
+    platform::Tree copy;
+    copy_below(copy.root(), holder);
+    return copy;
+}
+
+Datatree holder_of(const Datatree &tree)
+{
+    Datatree holder = {};
+    holder.subtrees = const_cast<Datatree *>(&tree);
+    holder.subtree_count = 1;
+    holder.present[0] = VMF_DT_SUBTREES;
+    return holder;
+}
+
+io::Document copy_of_request(const Datatree &bgp)
+{
+    const Datatree holder = holder_of(bgp);
+    platform::Tree copy = copy_of(holder);
+    io::Document document;
+    std::swap(document.bgp.root(), platform::children_of(copy.root()).front());
+    return document;
+}
+
 class RecordedRequest::WatchedDatabase final : public platform::Database {
 public:
     WatchedDatabase(const platform::Database &database, std::vector<Query> &queries)
@@ -85,7 +110,7 @@ RecordedRequest::~RecordedRequest() = default;
 
 void RecordedRequest::answer(platform::Tree response)
 {
-    copy_below(recording_.response.root(), response.root());
+    recording_.response = copy_of(response.root());
     recording_.was_answered = true;
     WalkRecorder recorder(platform::children_of(recording_.response.root()), request_.context());
     trace_.listener = [&](std::string_view line) { recorder.follow(line); };

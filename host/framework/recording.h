@@ -67,6 +67,15 @@ private:
     Request request_;
 };
 
+// A copy of what stands below a holder. Throws std::bad_alloc.
+platform::Tree copy_of(const Datatree &holder);
+
+// A holder whose one child is `tree`, which it borrows.
+Datatree holder_of(const Datatree &tree);
+
+// A request anew, since the mapping writes into it.
+io::Document copy_of_request(const Datatree &bgp);
+
 inline bool is_read(uint32_t kind) { return kind == VMF_REQ_GET || kind == VMF_REQ_GET_CONFIG; }
 
 }  // namespace framework

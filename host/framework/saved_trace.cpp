@@ -244,13 +244,8 @@ Lines lines_of_result(const SavedTrace &trace)
 
 SavedTrace saved(const Recording &recording, io::Secrets secrets)
 {
-    Datatree holder = {};  // borrows the request
-    holder.subtrees = const_cast<Datatree *>(&recording.request.bgp.root());
-    holder.subtree_count = 1;
-    holder.present[0] = VMF_DT_SUBTREES;
-
     const Refusal &refusal = recording.refusal;
-    SavedTrace trace = {.kind = recording.kind, .request = lines_of(holder, secrets)};
+    SavedTrace trace = {.kind = recording.kind, .request = lines_of(holder_of(recording.request.bgp.root()), secrets)};
     trace.queries = recording.queries;
     trace.native_request = lines_of(recording.native.root(), secrets);
     trace.outcome = recording.outcome;
