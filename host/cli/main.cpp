@@ -9,6 +9,7 @@
 #include <new>
 
 #include "completion.h"
+#include "coverage.h"
 #include "edit.h"
 #include "exit_codes.h"
 #include "explain.h"
@@ -175,6 +176,7 @@ struct Options {
     cli::TraceOptions trace;
     cli::ReplayOptions replay;
     cli::ExplainOptions explain;
+    cli::CoverageOptions coverage;
     cli::RouterOptions router;
     std::string file;
     std::string what;
@@ -281,9 +283,35 @@ void add_explain(Commands &commands, cli::ExplainOptions &options)
     CLI::App *command =
         commands.add("explain", "Explain what a node of the OpenConfig tree becomes natively",
                      "explain /bgp/neighbors/neighbor/config/peer-as", [&options] { return cli::explain(options); });
-    command->add_option("PATH", options.path, "of OpenConfig, with or without keys")->option_text(" ");
-    command->add_flag("--all", options.all, "every node of the OpenConfig tree; with --json");
+    command->footer(std::string(cli::explain_json_help) + "\n" + command->get_footer());
+    CLI::Option *path =
+        command->add_option("PATH", options.path, "of OpenConfig, with or without list keys in brackets")
+            ->option_text(" ");
+    CLI::Option *native =
+        command->add_option("--native", options.native_path, "which OpenConfig leaves a native node feeds")
+            ->excludes(path)
+            ->option_text("PATH");
+    command->add_flag("--all", options.all, "every node of the OpenConfig tree; with --json")
+        ->excludes(path)
+        ->excludes(native);
+    command->add_option("--kind", options.kind, "only what such a request becomes")
+        ->check(CLI::IsMember({"read", "merge", "replace", "delete"}))
+        ->option_text("read|merge|replace|delete");
     command->add_flag("--json", options.json, "as JSON");
+}
+
+void add_coverage(Commands &commands, cli::CoverageOptions &options)
+{
+    CLI::App *command =
+        commands.add("coverage", "Tell how much of an OpenConfig module the mapping accepts",
+                     "coverage --against models/openconfig-bgp.yang", [&options] { return cli::coverage(options); });
+    command->add_option("--against", options.modules, "YANG modules; the mapping's own edition of the model otherwise")
+        ->option_text("FILE...");
+    command->add_option("--search-dir", options.folders, "where the modules that they import lie")
+        ->option_text("DIR...");
+    command->add_flag("--json", options.json, "as JSON, with every node");
+    command->add_flag("--deviations", options.deviations,
+                      "a YANG module that tells a client's tools what is not supported");
 }
 
 void add_store_commands(Commands &commands, Options &options)
@@ -357,6 +385,7 @@ int run(int argc, char **argv)
     add_trace_command(commands, options.trace);
     add_replay(commands, options.replay);
     add_explain(commands, options.explain);
+    add_coverage(commands, options.coverage);
     add_store_commands(commands, options);
     try {
         app.parse(argc, argv);

@@ -171,7 +171,39 @@ public:
         return {};
     }
 
+    // Those that say nothing alone, each beside one other.
+    std::vector<Answer> of_pairs(const std::vector<const Schema *> &candidates, const std::vector<Answer> &singles,
+                                 Entries entries) const
+    {
+        std::vector<Answer> answers;
+        for (const Schema *native : candidates) {
+            const auto is_known = [native](const Answer &known) { return known.native == native; };
+            if (std::any_of(singles.begin(), singles.end(), is_known)) continue;
+            std::vector<Answer> found = of_pairs_with(*native, candidates, entries);
+            std::erase_if(found, [native](const Answer &other) { return other.native != native; });
+            answers.insert(answers.end(), found.begin(), found.end());
+        }
+        return answers;
+    }
+
 private:
+    // The first other leaf that lets the target come back with the two, and with neither alone as it then is.
+    std::vector<Answer> of_pairs_with(const Schema &native, const std::vector<const Schema *> &candidates,
+                                      Entries entries) const
+    {
+        for (const Schema *beside : candidates)
+            for (const std::string &sample : samples_of_candidate(native))
+                for (const std::string &other : samples_of_candidate(*beside)) {
+                    if (beside == &native) continue;
+                    const std::vector<Given> pair = {{&native, sample}, {beside, other}};
+                    const Values values = run(pair, entries);
+                    if (values.empty() || values == run({pair[0]}, entries) || values == run({pair[1]}, entries))
+                        continue;
+                    return of_needed(pair, entries);
+                }
+        return {};
+    }
+
     std::vector<Given> needed(std::vector<Given> given, const Values &values, Entries entries) const
     {
         for (size_t i = given.size(); i-- > 0;) {
@@ -182,25 +214,40 @@ private:
         return given;
     }
 
+    // What one of the leaves can make of the target, with the others as they are.
+    struct Influence {
+        std::vector<Answer> answers;
+        bool chooses = false;  // among values; else it only lets the target come back or not
+    };
+
+    Influence influence_of(size_t leaf, const std::vector<Given> &given, Entries entries) const
+    {
+        Influence influence;
+        std::vector<Given> changed = given;
+        for (const std::string &sample : samples_of_candidate(*given[leaf].native)) {
+            changed[leaf].value = sample;
+            const Values values = run(changed, entries);
+            if (values.empty()) continue;
+            influence.answers.push_back(answer(changed[leaf], values.front(), entries));
+            Answer &made = influence.answers.back();
+            for (size_t other = 0; other < given.size(); other++)
+                if (other != leaf) made.with.push_back(line(given[other]));
+            influence.chooses |= made.value != influence.answers.front().value;
+        }
+        return influence;
+    }
+
+    // Of leaves that are all needed: those that choose the value, or else all.
     std::vector<Answer> of_needed(const std::vector<Given> &given, Entries entries) const
     {
+        std::vector<Influence> influences;
+        for (size_t leaf = 0; leaf < given.size(); leaf++) influences.push_back(influence_of(leaf, given, entries));
+        const bool is_chosen = std::any_of(influences.begin(), influences.end(),
+                                           [](const Influence &influence) { return influence.chooses; });
         std::vector<Answer> answers;
-        const Values usual = run(given, entries);
-        for (size_t i = 0; i < given.size(); i++) {
-            std::vector<Given> changed = given;
-            std::vector<Answer> of_leaf;
-            bool depends = given.size() == 1;
-            for (const std::string &sample : samples_of_candidate(*given[i].native)) {
-                changed[i].value = sample;
-                const Values values = run(changed, entries);
-                depends |= values != usual;
-                if (values.empty()) continue;
-                of_leaf.push_back(answer(changed[i], values.front(), entries));
-                for (size_t other = 0; other < given.size(); other++)
-                    if (other != i) of_leaf.back().with.push_back(line(given[other]));
-            }
-            if (depends) answers.insert(answers.end(), of_leaf.begin(), of_leaf.end());
-        }
+        for (const Influence &influence : influences)
+            if (influence.chooses || !is_chosen)
+                answers.insert(answers.end(), influence.answers.begin(), influence.answers.end());
         return answers;
     }
 
@@ -327,6 +374,16 @@ Values values_of(const Target &target, const MadeRouter &router)
     return values;
 }
 
+// Of the candidates those that the target's own read names.
+static std::vector<const Schema *> asked_for(const Run &read)
+{
+    constexpr size_t most = 12;  // a read of a whole entry says nothing of one leaf
+    std::vector<const Schema *> candidates;
+    for (const NativeNode &native : read.native) collect_candidates(*native.schema, candidates);
+    if (candidates.size() > most) candidates.clear();
+    return candidates;
+}
+
 std::vector<Answer> answers_of(const Target &target)
 {
     if (!is_leaf(*target.node)) return {};
@@ -341,6 +398,8 @@ std::vector<Answer> answers_of(const Target &target)
         if (of_leaves.empty()) of_leaves = experiment.of_single(candidates, entries);
         if (of_leaves.empty()) of_leaves = experiment.of_all(candidates, entries);
     }
+    const std::vector<Answer> of_pairs = experiment.of_pairs(asked_for(read), of_leaves, Entries::one);
+    of_leaves.insert(of_leaves.end(), of_pairs.begin(), of_pairs.end());
     answers.insert(answers.end(), of_leaves.begin(), of_leaves.end());
     return answers;
 }

@@ -173,19 +173,36 @@ static bool depends_on_value(const NativeNode &native, const Request &request, c
     });
 }
 
+static bool is_removal(const NativeNode &native)
+{
+    return native.operation == uint32_t{VMF_OP_DELETE} || native.operation == uint32_t{VMF_OP_REMOVE};
+}
+
+// How much of a native node is the target in another form.
+enum class Kinship { none, feeds_it, is_its_value };
+
+static Kinship kinship_of(const NativeNode &native, const Request &request, const std::vector<Request> &requests,
+                          const std::set<std::string> &feeders)
+{
+    const bool is_given = native.value && native.value == request.value;
+    const bool has_value = is_given || depends_on_value(native, request, requests);
+    if (!feeders.empty() && !feeds_target(native, feeders)) return Kinship::none;
+    if (writes(request.kind) && is_removal(native) && request.native.size() > 1) return Kinship::feeds_it;
+    return has_value ? Kinship::is_its_value : Kinship::feeds_it;
+}
+
+// The nearest kin are the target, all others go along.
 void mark_companions(const Target &target, std::vector<Request> &requests)
 {
     const std::set<std::string> feeders = feeds().feeders(*target.node);
     for (Request &request : requests) {
-        bool has_own = false;
-        for (NativeNode &native : request.native) {
-            const bool is_given = feeders.empty() && native.value && native.value == request.value;
-            native.is_companion =
-                !is_given && !feeds_target(native, feeders) && !depends_on_value(native, request, requests);
-            has_own |= !native.is_companion;
-        }
-        if (has_own) continue;
-        for (NativeNode &native : request.native) native.is_companion = false;
+        Kinship nearest = Kinship::none;
+        for (const NativeNode &native : request.native)
+            nearest = std::max(nearest, kinship_of(native, request, requests, feeders));
+        std::vector<bool> goes_along;
+        for (const NativeNode &native : request.native)
+            goes_along.push_back(kinship_of(native, request, requests, feeders) < nearest);
+        for (size_t i = 0; i < goes_along.size(); i++) request.native[i].is_companion = goes_along[i];
     }
 }
 
@@ -207,7 +224,15 @@ static Acceptance acceptance_of(const std::vector<Request> &requests)
     return is_accepted(requests.front()) ? Acceptance::read_only : Acceptance::refused;
 }
 
-Acceptance acceptance_of(const Target &target) { return acceptance_of(made_requests(target)); }
+Acceptance acceptance_of(const Target &target)
+{
+    const MadeRouter router(entry_keys(target));
+    for (const std::optional<std::string> &value : values_to_write(target))
+        if (run_request(target, saying_of(Kind::merge, value), router).outcome == VMF_RC_OK)
+            return Acceptance::writable;
+    const bool is_read = run_request(target, saying_of(Kind::read, std::nullopt), router).outcome == VMF_RC_OK;
+    return is_read ? Acceptance::read_only : Acceptance::refused;
+}
 
 static std::vector<std::string> families_of(const Target &target)
 {

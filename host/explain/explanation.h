@@ -64,8 +64,8 @@ Acceptance acceptance_of(const Target &target);
 
 std::vector<Request> made_requests(const Target &target);
 
-// Marks what an edit writes that is not the target in another form: no native node that the target is read from, and
-// none that depends on its value.
+// Marks what goes along with the target: beside native nodes that take its value, those that do not; beside nodes that
+// it is read from, those that it is not.
 void mark_companions(const Target &target, std::vector<Request> &requests);
 
 // A router with the target's entries, on which every leaf has a value; of those that its type takes the first, or the

@@ -134,4 +134,14 @@ std::string write_json(const std::vector<Explanation> &explanations)
     return text + "]\n";
 }
 
+std::string write_json(const std::vector<Feed> &feeds)
+{
+    Json json = Json::array();
+    for (const Feed &feed : feeds) {
+        json.push_back(to_json(feed.answer));
+        json.back()["path"] = feed.node->path;
+    }
+    return json.dump(2) + "\n";
+}
+
 }  // namespace explain

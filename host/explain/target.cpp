@@ -92,6 +92,13 @@ std::vector<std::string> families()
     return samples_of(schema_of(*model::find_oc_node("/bgp/global/afi-safis/afi-safi/afi-safi-name")));
 }
 
+// A key refers to the leaf below `config` that has its type.
+std::optional<std::string> canonical_key(const model::OcNode &list, const std::string &value)
+{
+    const model::OcNode *leaf = model::find_oc_node(std::string(list.path).append("/config/").append(list.key));
+    return router::canonical_value(schema_of(*leaf), value);
+}
+
 EntryKeys entry_keys(const Target &target)
 {
     EntryKeys keys;

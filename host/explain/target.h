@@ -36,6 +36,9 @@ Target make_target(std::string_view schema_path, const std::vector<Key> &given =
 Target with_family(const Target &target, const std::string &identity);
 bool has_family(const Target &target);
 
+// A key as the router keeps it; none if no entry can have it. Not of families.
+std::optional<std::string> canonical_key(const model::OcNode &list, const std::string &value);
+
 // The entries of a made router that meet the target.
 EntryKeys entry_keys(const Target &target);
 

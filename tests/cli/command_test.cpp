@@ -7,9 +7,9 @@
 
 namespace {
 
-const char *const commands[] = {"translate", "edit",    "get",  "init", "reset",
-                                "commit",    "discard", "diff", "show", "load-operational",
-                                "backup",    "restore"};
+const char *const commands[] = {"translate", "edit",    "get",     "init",    "reset",
+                                "commit",    "discard", "diff",    "show",    "load-operational",
+                                "backup",    "restore", "explain", "coverage"};
 
 // The command of the example in a help text.
 std::string example_in(const std::string &help)
@@ -53,7 +53,7 @@ TEST_F(Examples, OfHelpWork)
 {
     EXPECT_EQ(run_ocbgp(example_in(run_ocbgp("--help").out)).code, 0);
     for (const char *command : {"init", "translate", "edit", "get", "diff", "commit", "discard", "show",
-                                "load-operational", "backup", "restore", "reset"}) {
+                                "load-operational", "backup", "restore", "reset", "explain", "coverage"}) {
         std::string example = example_in(run_ocbgp(std::string(command) + " --help").out);
         EXPECT_TRUE(example.starts_with(command)) << example;
         replace_all(example, "/tmp/router", path("tried"));

@@ -14,7 +14,7 @@ using sweep::Exchange;
 using sweep::Trees;
 
 // How often an exchange is run with one of its operations failing, twice each time.
-constexpr size_t most_points = sweep::most_points == SIZE_MAX ? 40 : 8;
+const size_t most_points = sweep::most_points() == SIZE_MAX ? 40 : 8;
 
 class Moving {
 public:
