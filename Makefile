@@ -20,15 +20,15 @@ run:
 	scripts/show-examples build/run/bin/ocbgp
 
 # Everything that has to hold: formatted, generated sources fresh, no warning of either compiler or of clang-tidy, all
-# tests, and all tests again under the address and undefined-behaviour sanitizers.
+# tests, all tests again under the address and undefined-behaviour sanitizers, and threads under the thread sanitizer.
 test:
 	scripts/install-packages $(test_packages)
 	$(MAKE) format-check
 	$(MAKE) test-release
 	$(MAKE) tidy
 	$(MAKE) test-sanitize
+	$(MAKE) test-thread
 
-# Threads under the thread sanitizer: `make test-thread`, which is not part of `make test`.
 test-release test-sanitize test-thread: test-%:
 	cmake --preset $*
 	cmake --build --preset $* -j $(JOBS)
