@@ -25,16 +25,17 @@ run:
 	scripts/show-examples build/run/bin/ocbgp
 
 # Everything that has to hold: formatted, generated sources fresh, no warning of either compiler or of clang-tidy, all
-# tests, and all tests again under the address and undefined-behaviour sanitizers; the reference in a browser.
+# tests, all tests again under the address and undefined-behaviour sanitizers, threads under the thread sanitizer, and the
+# reference in a browser.
 test:
 	scripts/install-packages $(test_packages)
 	$(MAKE) format-check
 	$(MAKE) test-release
 	$(MAKE) tidy
 	$(MAKE) test-sanitize
+	$(MAKE) test-thread
 	$(MAKE) test-docs
 
-# Threads under the thread sanitizer: `make test-thread`, which is not part of `make test`.
 test-release test-sanitize test-thread: test-%:
 	cmake --preset $*
 	cmake --build --preset $* -j $(JOBS)
