@@ -5,35 +5,78 @@
 
 #include "array_index.h"
 #include "observer.h"
+#include "pieces.h"
 #include "vmf_map_platform.h"
 
 namespace platform {
 
-void *allocate_block(size_t size)
+static PieceClass class_of_block(const BlockHead &head) { return class_of(sizeof(BlockHead) + head.size); }
+
+// A block of that size with a fresh head.
+static void *make_block(size_t size)
 {
     if (size > SIZE_MAX - sizeof(BlockHead)) return nullptr;
-    auto *head = static_cast<BlockHead *>(std::calloc(1, sizeof(BlockHead) + size));
+    const PieceClass piece_class = class_of(sizeof(BlockHead) + size);
+    auto *head = static_cast<BlockHead *>(take_piece(piece_class, sizeof(BlockHead) + size));
     if (head == nullptr) return nullptr;
-    head->size = size;
+    *head = {nullptr, piece_class != no_class ? size_of_class(piece_class) - sizeof(BlockHead) : size};
     return head + 1;
+}
+
+void *allocate_block(size_t size)
+{
+    void *block = make_block(size);
+    if (block != nullptr) std::memset(block, 0, size);
+    return block;
 }
 
 void release_block(void *block)
 {
     if (block == nullptr) return;
-    delete head_of(block)->index;
-    std::free(head_of(block));
+    BlockHead *head = head_of(block);
+    delete head->index;
+    give_back_piece(head, class_of_block(*head));
+}
+
+static void *grow_large_block(BlockHead *head, size_t size)
+{
+    if (size > SIZE_MAX - sizeof(BlockHead)) return nullptr;
+    head = static_cast<BlockHead *>(std::realloc(head, sizeof(BlockHead) + size));
+    if (head == nullptr) return nullptr;
+    head->size = size;
+    return head + 1;
 }
 
 void *grow_block(void *block, size_t size)
 {
-    if (size > SIZE_MAX - sizeof(BlockHead)) return nullptr;
-    void *old_head = block != nullptr ? head_of(block) : nullptr;
-    auto *head = static_cast<BlockHead *>(std::realloc(old_head, sizeof(BlockHead) + size));
-    if (head == nullptr) return nullptr;
-    if (block == nullptr) head->index = nullptr;
-    head->size = size;
-    return head + 1;
+    if (block == nullptr) return make_block(size);
+    BlockHead *head = head_of(block);
+    if (size <= head->size) return block;
+    if (class_of_block(*head) == no_class) return grow_large_block(head, size);
+    void *grown = make_block(size);
+    if (grown == nullptr) return nullptr;
+    std::memcpy(grown, block, head->size);
+    head_of(grown)->index = head->index;
+    give_back_piece(head, class_of_block(*head));
+    return grown;
+}
+
+// The class stands in front of a text.
+char *copy_text(std::string_view text)
+{
+    const size_t size = text.size() + 2;
+    const PieceClass piece_class = class_of(size);
+    auto *piece = static_cast<char *>(take_piece(piece_class, size));
+    if (piece == nullptr) return nullptr;
+    *piece = static_cast<char>(piece_class);
+    std::memcpy(piece + 1, text.data(), text.size());
+    piece[text.size() + 1] = '\0';
+    return piece + 1;
+}
+
+void release_text(char *text)
+{
+    if (text != nullptr) give_back_piece(text - 1, static_cast<PieceClass>(text[-1]));
 }
 
 }  // namespace platform
@@ -52,9 +95,9 @@ void kos_named_free(void *memory) { platform::release_block(memory); }
 char *vmf_strdup(const char *text, const char * /*label*/)
 {
     if (platform::observed({.name = "vmf_strdup", .path = text}) != 0 || text == nullptr) return nullptr;
-    return strdup(text);
+    return platform::copy_text(text);
 }
 
-void vmf_gpb_free(void *memory) { std::free(memory); }
+void vmf_gpb_free(void *memory) { platform::release_text(static_cast<char *>(memory)); }
 
 }  // extern "C"

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <utility>
@@ -144,11 +143,9 @@ Datatree *append_child(Datatree &parent, const char *tag, const char *ns)
 
 bool set_value(Datatree &node, std::string_view value)
 {
-    auto *copy = static_cast<char *>(std::malloc(value.size() + 1));
+    char *copy = copy_text(value);
     if (copy == nullptr) return false;
-    std::memcpy(copy, value.data(), value.size());
-    copy[value.size()] = '\0';
-    if (has(node, VMF_DT_VALUE)) std::free(node.value);
+    if (has(node, VMF_DT_VALUE)) release_text(node.value);
     node.value = copy;
     node.present[0] |= VMF_DT_VALUE;
     return true;
