@@ -58,7 +58,7 @@ Argument describe(const CLI::Option &option)
     for (const std::string &name : option.get_snames()) argument.names.push_back("-" + name);
     for (const std::string &name : option.get_lnames()) argument.names.push_back("--" + name);
     argument.help = option.get_description();
-    if (option.get_type_size_max() == 0) return argument;
+    if (option.get_items_expected_max() == 0) return argument;
     argument.takes = told_by(value_of(option));
     argument.words = words_of(value_of(option));
     return argument;

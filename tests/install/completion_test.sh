@@ -61,6 +61,7 @@ for shell in bash zsh fish; do
     expect $shell "ocbgp translate --kind get" get get-config
     expect $shell "ocbgp show " candidate operational running
     expect $shell "ocbgp translate ed" edit.xml
+    expect $shell "ocbgp edit --dry-run ed" edit.xml
     expect $shell "ocbgp init --router f" folder
 done
 expect bash "ocbgp translate --format=j" json
