@@ -54,6 +54,18 @@ for code in $codes; do
     section_of ".Sh EXIT STATUS" | grep -q "^\.It $code$" || fail "ocbgp(1) lacks the exit code $code"
 done
 
+# ---- And nothing more ----
+
+for command in $(awk '/^\.Sh /{ inside = ($0 == ".Sh COMMANDS") } inside && /^\.Ss /{ print $2 }' "$folder/ocbgp.1"); do
+    echo "$commands" | grep -qx -e "$command" || { fail "ocbgp(1) has a command that is not there: $command"; continue; }
+    for option in $(section_of ".Ss $command" | sed -n 's/^\.Op Fl \([a-z-]*\).*/-\1/p'); do
+        options_of "$command" | grep -qx -e "$option" || fail "ocbgp(1): $command has no $option"
+    done
+done
+for code in $(section_of ".Sh EXIT STATUS" | sed -n 's/^\.It \([0-9]*\)$/\1/p'); do
+    echo "$codes" | grep -qx "$code" || fail "ocbgp(1) has an exit code that is not there: $code"
+done
+
 # ---- Both bear the version ----
 
 version=$("$ocbgp" --version)
