@@ -22,3 +22,14 @@ TEST(TreeText, HidesPasswords)
     EXPECT_EQ(io::write_tree(tree.root(), io::Secrets::hidden),
               "config oc-bgp\n  auth-password = ***\npassword zr-cfg\n  password = ***\n  password-disable = false\n");
 }
+
+TEST(TreeText, AValueThatLooksLikeADataNamespaceStaysAValue)
+{
+    platform::Tree tree;
+    Datatree *leaf = platform::append_child(tree.root(), "description", OC_BGP_NS);
+    ASSERT_TRUE(platform::set_value(*leaf, "zr-cfg:uplink"));
+    const platform::Tree read = io::read_tree(io::write_tree(tree.root(), io::Secrets::hidden));
+    const Datatree &again = platform::children_of(read.root()).front();
+    EXPECT_STREQ(platform::value_of(again), "zr-cfg:uplink");
+    EXPECT_EQ(platform::data_namespace_of(again), nullptr);
+}
