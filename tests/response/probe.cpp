@@ -282,6 +282,18 @@ char *vmf_strdup(const char *text, const char *label)
     return NEXT(vmf_strdup)(text, label);
 }
 
+int32_t strcpy_s(char *destination, size_t size, const char *source)
+{
+    if (probe != nullptr) probe->bounds.push_back(size);
+    return NEXT(strcpy_s)(destination, size, source);
+}
+
+int32_t __strcat_s_to_buf(size_t buffer_size, char *destination, size_t size, const char *source)
+{
+    if (probe != nullptr) probe->bounds.insert(probe->bounds.end(), {buffer_size, size});
+    return NEXT(__strcat_s_to_buf)(buffer_size, destination, size, source);
+}
+
 uint32_t vmf_map_do_these_match(const char *a, const char *b)
 {
     if (probe != nullptr && probe->match) return probe->match(a, b);

@@ -73,6 +73,7 @@ struct Probe {
     std::vector<const void *> released;  // kos_named_free, the same
     std::vector<Added> added;            // vmf_map_datatree_add_subtree
     std::vector<std::string> copied;     // vmf_strdup, "label: text"
+    std::vector<size_t> bounds;          // strcpy_s: the size; __strcat_s_to_buf: that of the buffer, and the size
 
     // If set, answer in the place of the platform.
     std::function<uint32_t(const char *a, const char *b)> match;

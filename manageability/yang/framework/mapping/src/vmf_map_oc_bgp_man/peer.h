@@ -8,27 +8,15 @@
 struct Peer {
     const char *families;  // below the entry
     const char *family;
-    uint32_t Req::*no_config;
-    uint32_t Req::*no_state;
     uint32_t Req::*family_filter;
     const char *says_when_written;  // a container of `transport`, which only its leaves can write
     bool is_direct;                 // its `local-address` is read straight from the platform
 };
 
-inline constexpr Peer neighbor = {"neighbor-afs",
-                                  "neighbor-afs/neighbor-af",
-                                  &Req::nbr_no_config,
-                                  &Req::nbr_no_state,
-                                  &Req::nbr_af_filter,
-                                  "No mapping done for this node when it is a merge/create request",
-                                  false};
-inline constexpr Peer peer_group = {"neighbor-group-afs",
-                                    "neighbor-group-afs/neighbor-group-af",
-                                    &Req::grp_no_config,
-                                    &Req::grp_no_state,
-                                    &Req::grp_af_filter,
-                                    "No mapping done for this node for a merge/create request",
-                                    true};
+inline constexpr Peer neighbor = {"neighbor-afs", "neighbor-afs/neighbor-af", &Req::nbr_af_filter,
+                                  "No mapping done for this node when it is a merge/create request", false};
+inline constexpr Peer peer_group = {"neighbor-group-afs", "neighbor-group-afs/neighbor-group-af", &Req::grp_af_filter,
+                                    "No mapping done for this node for a merge/create request", true};
 
 #define NEIGHBOR_CONT(path) OC_CONT(_neighbors_neighbor_##path)
 #define NEIGHBOR_LEAF(path) OC_LEAF(_neighbors_neighbor_##path)
