@@ -30,8 +30,8 @@ void collect_values(const Datatree &node, const std::string &path, const Target 
     const model::OcNode *model = model::find_oc_node(path);
     if (model == nullptr || !target.node->path.starts_with(path)) return;
     if (model == target.node) {
-        const char *value = platform::value_of(node);
-        values.emplace_back(value != nullptr ? value : "");
+        // A leaf without a value says nothing.
+        if (const char *value = platform::value_of(node)) values.emplace_back(value);
         return;
     }
     if (model->kind == model::Kind::list && !is_entry_of(node, target, *model)) return;

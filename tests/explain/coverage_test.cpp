@@ -163,10 +163,14 @@ TEST_F(Coverage, DeviationsOfAnAugmentedModelNameBothModules)
     const explain::Modules modules({path("openconfig-bgp.yang"), path("colours.yang")}, {});
     const std::string deviations =
         write("vmf-oc-bgp-deviations.yang", write_deviations(modules, explain::Coverage(modules)));
-    const std::string tree =
-        yanglint("-f tree " + path("openconfig-bgp.yang") + " " + path("colours.yang") + " " + deviations);
-    EXPECT_EQ(tree.find("refused"), std::string::npos) << tree;
-    EXPECT_EQ(tree.find("router-id"), std::string::npos) << tree;
+    const std::string data = write("data.xml", R"(<bgp xmlns="http://openconfig.net/yang/bgp"><global><config>
+  <router-id xmlns="http://zorvex.example/ns/yang/colours">x</router-id>
+</config></global></bgp>)");
+    const std::string both = "-t config " + path("openconfig-bgp.yang") + " " + path("colours.yang") + " ";
+    EXPECT_EQ(yanglint(both + data), "");
+    const std::string said = yanglint(both + deviations + " " + data);
+    EXPECT_TRUE(said.starts_with("refused: ")) << said;
+    EXPECT_NE(said.find("\"router-id\" not found"), std::string::npos) << said;
 }
 
 TEST_F(Coverage, DeviationsOfItsOwnModelAreNoneAndLoad)
