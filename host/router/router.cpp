@@ -190,7 +190,7 @@ void Router::load_operational(std::string_view xml, const std::string &file)
     const Schema &root = models().operational;
     Data data;
     try {
-        data = read_xml(bgp_element(xml, file, root.ns), root, Check::model);
+        data = read_xml(bgp_element(xml, file, root), root, Check::model);
     } catch (const BadXml &bad) {
         const std::string line = bad.line.empty() ? "" : " (" + file + ":" + bad.line + ")";
         throw Refused({{bad.violation.path, bad.violation.rule + line}});

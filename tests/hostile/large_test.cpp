@@ -78,3 +78,17 @@ TEST_F(Large, ACommentOfManyMegabytes)
     expect(std::string(bgp_tag) + "printf '<!--'; yes | head -c 20M",
            "-:10485762:1: not well-formed XML: Comment not terminated");
 }
+
+TEST_F(Large, AnEntryThatStandsAMillionTimes)
+{
+    expect("echo '<bgp xmlns=\"http://zorvex.example/ns/yang/Zorvex-ZR-ipv4-bgp-oper\"><instances>'; "
+           "yes '<instance><instance-name>a</instance-name></instance>' | head -n 1000000",
+           "-:1002:1: more than 1000 times the same <instance>", "load-operational -");
+}
+
+TEST_F(Large, ALeafThatStandsAMillionTimes)
+{
+    expect("echo '<bgp xmlns=\"http://zorvex.example/ns/yang/Zorvex-ZR-ipv4-bgp-oper\"><instances><instance>'; "
+           "yes '<instance-name>a</instance-name>' | head -n 1000000",
+           "-:1002:1: more than 1000 times the same <instance-name>", "load-operational -");
+}
