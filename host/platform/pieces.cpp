@@ -113,19 +113,39 @@ auto with_stock(Use use)
     return use(others.stock);
 }
 
-// A small chunk first, for one small request; then ever larger ones, up to many large pages at once.
+constexpr size_t large_page = size_t{2} << 20;
+
+// Memory for one large page, where it may lie.
+char *map_large_page()
+{
+    const auto map = [](size_t size) -> char * {
+        void *mapped = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+        return mapped != MAP_FAILED ? static_cast<char *>(mapped) : nullptr;
+    };
+    const auto misfit = [](const char *at) { return reinterpret_cast<uintptr_t>(at) % large_page; };
+    char *page = map(large_page);  // fits if it comes to lie beside the one before
+    if (page != nullptr && misfit(page) != 0) {
+        munmap(page, large_page);
+        char *both = map(2 * large_page);
+        if (both == nullptr) return nullptr;
+        const size_t before = (large_page - misfit(both)) % large_page;
+        page = both + before;
+        if (before != 0) munmap(both, before);
+        munmap(page + large_page, large_page - before);
+    }
+    if (page != nullptr) madvise(page, large_page, MADV_HUGEPAGE);  // a hint
+    return page;
+}
+
+// A small chunk first, for one small request; then larger ones, up to large pages.
 bool take_chunk(Stock &of)
 {
     constexpr size_t first = size_t{64} << 10;
-    constexpr size_t large_page = size_t{2} << 20;
-    constexpr size_t most = 4 * large_page;
-    const size_t size = std::clamp(of.last_chunk * 4, first, most);
-    const bool is_large = size >= large_page;
-    void *chunk = std::aligned_alloc(is_large ? large_page : step, size);
+    const size_t size = std::clamp(of.last_chunk * 4, first, large_page);
+    char *chunk = size < large_page ? static_cast<char *>(std::malloc(size)) : map_large_page();
     if (chunk == nullptr) return false;
-    if (is_large) madvise(chunk, size, MADV_HUGEPAGE);  // a hint
-    of.next = static_cast<char *>(chunk);
-    of.end = of.next + size;
+    of.next = chunk;
+    of.end = chunk + size;
     of.last_chunk = size;
     return true;
 }
