@@ -289,7 +289,8 @@ std::string write_deviations(const Modules &modules, const Coverage &coverage)
                        "  yang-version 1.1;\n"
                        "  namespace \"http://zorvex.example/ns/yang/vmf-oc-bgp-deviations\";\n"
                        "  prefix vmf-oc-bgp-dev;\n\n";
-    for (const auto &[name, prefix] : imports) text += "  import " + name + " { prefix " + prefix + "; }\n";
+    for (const auto &[name, prefix] : imports)
+        text.append("  import ").append(name).append(" { prefix ").append(prefix).append("; }\n");
     text += "\n  organization \"The BGP mapping library\";\n\n"
             "  contact \"The maintainers of this repository\";\n\n"
             "  description\n"

@@ -25,7 +25,8 @@ extern "C" uint32_t get_backend_session(VmfReqContext *req_ctx, SysdbBackendSess
     if (req_ctx == nullptr) return VMF_RC_BAD_ARGS;  // nothing to log through
     VmfContext *vmf_ctx = req_ctx->vmf_ctx;
     if (vmf_ctx == nullptr) assertion_failed(__FILE__, __LINE__, "NULL != req_ctx->vmf_ctx");
-    if (lies_at_null(&vmf_ctx->_debug_ctx)) assertion_failed(__FILE__, __LINE__, "NULL != (&((req_ctx->vmf_ctx)->_debug_ctx))");
+    if (lies_at_null(&vmf_ctx->_debug_ctx))
+        assertion_failed(__FILE__, __LINE__, "NULL != (&((req_ctx->vmf_ctx)->_debug_ctx))");
     SESSION_TRC(vmf_ctx, "Entering %s", "get_backend_session");
 
     const VmfRequestMessage *message = req_ctx->request_message;
