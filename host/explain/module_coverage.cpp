@@ -283,7 +283,7 @@ std::string write_deviations(const Modules &modules, const Coverage &coverage)
     }
     for (const CoveredNode *node : config_only_read(coverage)) {
         collect_modules(node->node, imports);
-        deviations += deviation_of(node->node, config_verb(*node->node) + " {\n      config false;\n    }");
+        deviations += deviation_of(node->node, config_verb(*node->node).append(" {\n      config false;\n    }"));
     }
     std::string text = "module vmf-oc-bgp-deviations {\n"
                        "  yang-version 1.1;\n"
