@@ -3,7 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "nodes.h"
 #include "tree.h"
@@ -159,37 +164,56 @@ bool is(const Datatree &node, uint32_t operation)
 
 bool is_removed(const Datatree &node) { return is(node, VMF_OP_DELETE) || is(node, VMF_OP_REMOVE); }
 
-bool is_container(std::string_view schema)
-{
-    const model::OcNode *node = model::find_oc_node(schema);
-    return node != nullptr && node->kind == model::Kind::container;
-}
+// What the tables say of a node of the model. An edit of many entries has few such nodes.
+struct Place {
+    explicit Place(std::string schema_path)
+        : schema(std::move(schema_path)), node(model::find_oc_node(schema)),
+          is_container(node != nullptr && node->kind == model::Kind::container), is_scope(meets_any(scopes, schema)),
+          is_replaced(!is_container || meets_any(replaced_containers, schema)),
+          is_created(!is_container || meets_any(created_containers, schema))
+    {
+        for (size_t rule = 0; rule < std::size(rules); rule++)
+            if (rules[rule].path.empty() || meets(rules[rule].path, schema)) rules_of_it.push_back(rule);
+    }
+
+    Place &child(std::string_view tag)
+    {
+        auto found = children.find(tag);
+        if (found == children.end())
+            found = children.try_emplace(std::string(tag), schema + "/" + std::string(tag)).first;
+        return found->second;
+    }
+
+    std::string schema;
+    const model::OcNode *node;
+    bool is_container;
+    bool is_scope;
+    bool is_replaced;  // its own replace is carried out
+    bool is_created;
+    std::vector<size_t> rules_of_it = {};
+    std::map<std::string, Place, std::less<>> children = {};
+};
 
 class Notes {
 public:
-    // `schema` and `path` are those of the node: the model's and the client's.
-    void visit(const Datatree &node, const std::string &schema, const std::string &path)
+    void visit(const Datatree &node, Place &place)
     {
+        above_.push_back({&node, &place});
         const bool was_replaced = is_replaced_;
-        const bool is_scope = meets_any(scopes, schema);
-        for (size_t rule = 0; rule < std::size(rules); rule++) {
-            if (!rules[rule].path.empty() && !meets(rules[rule].path, schema)) continue;
-            if (!applies(rules[rule].when, node, schema)) continue;
-            if (met_[rule].count++ == 0) met_[rule].first = path;
+        for (const size_t rule : place.rules_of_it) {
+            if (!applies(rules[rule].when, node, place)) continue;
+            if (met_[rule].count++ == 0) met_[rule].first = path();
         }
-        is_replaced_ |= is(node, VMF_OP_REPLACE) && (!is_container(schema) || meets_any(replaced_containers, schema));
-        if (is_scope) {
+        is_replaced_ |= is(node, VMF_OP_REPLACE) && place.is_replaced;
+        if (place.is_scope) {
             owns_scope_ = !in_scope_ && is(node, VMF_OP_REPLACE);
             in_scope_ |= owns_scope_;
         }
-        for (const Datatree &child : platform::children_of(node)) {
-            const char *tag = platform::tag_of(child);
-            if (tag == nullptr) continue;
-            const std::string child_schema = schema + "/" + tag;
-            visit(child, child_schema, path + "/" + tag + key_of(child, child_schema));
-        }
-        if (is_scope && owns_scope_) in_scope_ = owns_scope_ = false;
+        for (const Datatree &child : platform::children_of(node))
+            if (const char *tag = platform::tag_of(child)) visit(child, place.child(tag));
+        if (place.is_scope && owns_scope_) in_scope_ = owns_scope_ = false;
         is_replaced_ = was_replaced;
+        above_.pop_back();
     }
 
     std::vector<std::string> lines() const
@@ -210,7 +234,7 @@ private:
         std::string first = {};
     };
 
-    bool applies(When when, const Datatree &node, const std::string &schema) const
+    bool applies(When when, const Datatree &node, const Place &place) const
     {
         const auto children = platform::children_of(node);
         const char *text = platform::value_of(node);
@@ -220,11 +244,8 @@ private:
         switch (when) {
         case When::removed: return is_removed(node);
         case When::replaced: return is(node, VMF_OP_REPLACE);
-        case When::replaced_in_vain:
-            return is(node, VMF_OP_REPLACE) && !is_replaced_ && is_container(schema) &&
-                   !meets_any(replaced_containers, schema);
-        case When::created_in_vain:
-            return is(node, VMF_OP_CREATE) && is_container(schema) && !meets_any(created_containers, schema);
+        case When::replaced_in_vain: return is(node, VMF_OP_REPLACE) && !is_replaced_ && !place.is_replaced;
+        case When::created_in_vain: return is(node, VMF_OP_CREATE) && !place.is_created;
         case When::written: return is_written;
         case When::written_alone: return is_written && children.empty();
         case When::written_false: return is_written && value == "false";
@@ -237,19 +258,34 @@ private:
         return false;
     }
 
-    static std::string key_of(const Datatree &entry, const std::string &schema)
+    // The client's path to the node that is visited.
+    std::string path() const
     {
-        const model::OcNode *node = model::find_oc_node(schema);
-        if (node == nullptr || node->key.empty()) return "";
+        std::string path;
+        for (const auto &[node, place] : above_) {
+            path.append(place->schema, place->schema.rfind('/'));
+            path += key_of(*node, *place);
+        }
+        return path;
+    }
+
+    static std::string key_of(const Datatree &entry, const Place &place)
+    {
+        if (place.node == nullptr || place.node->key.empty()) return "";
+        const std::string_view key = place.node->key;
         for (const Datatree &child : platform::children_of(entry)) {
             const char *tag = platform::tag_of(child);
             const char *value = platform::value_of(child);
-            if (tag != nullptr && node->key == tag && value != nullptr)
-                return "[" + std::string(node->key) + "='" + value + "']";
+            if (tag != nullptr && key == tag && value != nullptr) return "[" + std::string(key) + "='" + value + "']";
         }
         return "";
     }
 
+    struct Above {
+        const Datatree *node;
+        const Place *place;
+    };
+    std::vector<Above> above_ = {};
     std::array<Met, std::size(rules)> met_ = {};
     bool is_replaced_ = false;  // something above the node is replaced on the router too
     bool in_scope_ = false;
@@ -260,8 +296,9 @@ private:
 
 std::vector<std::string> edit_notes(const Datatree &bgp)
 {
+    Place root("/bgp");
     Notes notes;
-    notes.visit(bgp, "/bgp", "/bgp");
+    notes.visit(bgp, root);
     return notes.lines();
 }
 
