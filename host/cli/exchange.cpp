@@ -1,33 +1,17 @@
 #include "exchange.h"
 
-#include <new>
 #include <utility>
 
 #include "answer_check.h"
 
 namespace cli {
 
-namespace {
-
 // A response holds a tree for each native model.
-void add_trees(platform::Tree &to, platform::Tree from)
-{
-    for (Datatree &tree : platform::children_of(from.root())) {
-        Datatree *taken = platform::append_child(to.root(), tree.tag, tree.namespace_);
-        if (taken == nullptr) throw std::bad_alloc();
-        std::swap(taken->subtrees, tree.subtrees);
-        std::swap(taken->subtree_count, tree.subtree_count);
-        std::swap(taken->present[0], tree.present[0]);
-    }
-}
-
-}  // namespace
-
 platform::Tree response_to(const router::Router &router, const Datatree &native, bool wants_operational,
                            router::Datastore from)
 {
     platform::Tree response = router.read_config(native, from);
-    if (wants_operational) add_trees(response, router.read_operational(native));
+    if (wants_operational) platform::move_trees(response, router.read_operational(native));
     return response;
 }
 

@@ -2,9 +2,9 @@
 
 #include <cstdio>
 
+#include "outcome_names.h"
 #include "secrets.h"
 #include "tree.h"
-#include "vmf_map_platform.h"
 
 namespace cli {
 
@@ -18,26 +18,12 @@ std::string write_trees(const Datatree &holder, Format format, io::Envelope enve
     return io::write_tree(holder, secrets);
 }
 
-static const char *constant_of_outcome(uint32_t outcome)
-{
-    switch (outcome) {
-    case VMF_RC_BAD_TREE: return "VMF_RC_BAD_TREE";
-    case VMF_RC_BAD_ARGS: return "VMF_RC_BAD_ARGS";
-    case VMF_RC_NO_MEMORY: return "VMF_RC_NO_MEMORY";
-    case VMF_RC_UNSUPPORTED: return "VMF_RC_UNSUPPORTED";
-    case VMF_RC_BAD_KEY: return "VMF_RC_BAD_KEY";
-    case VMF_RC_KEY_OPERATION: return "VMF_RC_KEY_OPERATION";
-    case SYSDB_NOTHING_FOUND: return "SYSDB_NOTHING_FOUND";
-    case SYSDB_END_OF_PART: return "SYSDB_END_OF_PART";
-    default: return "outcome";
-    }
-}
-
 std::string name_of_outcome(uint32_t outcome)
 {
+    const char *constant = framework::constant_of_outcome(outcome);
     char number[sizeof " (0x00000000)"];
     std::snprintf(number, sizeof number, " (0x%08x)", outcome);
-    return constant_of_outcome(outcome) + std::string(number);
+    return (constant != nullptr ? constant : "outcome") + std::string(number);
 }
 
 static void collect_passwords(const Datatree &node, const char *parent, std::vector<std::string> &passwords)

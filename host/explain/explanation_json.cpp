@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "operation_names.h"
+#include "outcome_names.h"
 
 namespace explain {
 
@@ -11,16 +12,8 @@ using Json = nlohmann::ordered_json;
 
 std::string name_of_outcome(uint32_t outcome)
 {
-    switch (outcome) {
-    case VMF_RC_OK: return "accepted";
-    case VMF_RC_BAD_TREE: return "VMF_RC_BAD_TREE";
-    case VMF_RC_BAD_ARGS: return "VMF_RC_BAD_ARGS";
-    case VMF_RC_NO_MEMORY: return "VMF_RC_NO_MEMORY";
-    case VMF_RC_UNSUPPORTED: return "VMF_RC_UNSUPPORTED";
-    case VMF_RC_BAD_KEY: return "VMF_RC_BAD_KEY";
-    case VMF_RC_KEY_OPERATION: return "VMF_RC_KEY_OPERATION";
-    default: break;
-    }
+    if (outcome == VMF_RC_OK) return "accepted";
+    if (const char *constant = framework::constant_of_outcome(outcome)) return constant;
     char number[sizeof "0x00000000"];
     std::snprintf(number, sizeof number, "0x%08x", outcome);
     return number;

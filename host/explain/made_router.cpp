@@ -173,21 +173,11 @@ void MadeRouter::set(const Schema &node, const std::string &value, const EntryKe
 void MadeRouter::edit(const Datatree &native) { config_ = router::edited(config_, native); }
 
 // A response holds a tree for each native model.
-static void add_trees(platform::Tree &to, platform::Tree from)
-{
-    for (Datatree &tree : platform::children_of(from.root())) {
-        Datatree *taken = platform::append_child(to.root(), tree.tag, tree.namespace_);
-        if (taken == nullptr) throw std::bad_alloc();
-        std::swap(taken->subtrees, tree.subtrees);
-        std::swap(taken->subtree_count, tree.subtree_count);
-        std::swap(taken->present[0], tree.present[0]);
-    }
-}
-
 platform::Tree MadeRouter::respond(const Datatree &native, bool wants_operational) const
 {
     platform::Tree response = router::selected(*config_, router::models().config, native);
-    if (wants_operational) add_trees(response, router::selected(*operational_, router::models().operational, native));
+    if (wants_operational)
+        platform::move_trees(response, router::selected(*operational_, router::models().operational, native));
     return response;
 }
 

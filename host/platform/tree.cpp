@@ -4,6 +4,7 @@
 #include <array>
 #include <atomic>
 #include <cstring>
+#include <new>
 #include <string>
 #include <utility>
 
@@ -172,6 +173,17 @@ Tree &Tree::operator=(Tree &&other) noexcept
         other.root_ = {};
     }
     return *this;
+}
+
+void move_trees(Tree &to, Tree from)
+{
+    for (Datatree &tree : children(from.root())) {
+        Datatree *taken = append_child(to.root(), tree.tag, tree.namespace_);
+        if (taken == nullptr) throw std::bad_alloc();
+        std::swap(taken->subtrees, tree.subtrees);
+        std::swap(taken->subtree_count, tree.subtree_count);
+        std::swap(taken->present[0], tree.present[0]);
+    }
 }
 
 // ---- Finding --------------------------------------------------------------------------------

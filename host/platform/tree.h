@@ -64,4 +64,7 @@ private:
     Datatree root_ = {};
 };
 
+// Moves the trees below the root of `from` behind those below that of `to`. Throws std::bad_alloc.
+void move_trees(Tree &to, Tree from);
+
 }  // namespace platform
