@@ -73,17 +73,20 @@ static bool move_array(Datatree &parent)
     return true;
 }
 
-// How many children the last node of a tag had: the next one will have as many. Entries of a list are alike, and an
-// array that is right from the start neither moves nor leaves room unused.
+// How many children the last node of a tag had that began with the same child: the next one will have as many. Entries
+// of a list are alike, and an array that is right from the start neither moves nor leaves room unused.
 struct Room {
     const char *tag;
+    const char *first_child;
     uint32_t count;
 };
-static Room &room_of(const Datatree &parent)
+static Room &room_of(const Datatree &parent, ChildName added)
 {
     thread_local constinit std::array<Room, 256> rooms = {};
-    Room &room = rooms[reinterpret_cast<uintptr_t>(parent.tag) / 8 % rooms.size()];
-    if (room.tag != parent.tag) room = {parent.tag, 0};
+    const char *first_child = parent.subtree_count > 0 ? parent.subtrees->tag : added.tag;
+    const uintptr_t hash = reinterpret_cast<uintptr_t>(parent.tag) / 8 + reinterpret_cast<uintptr_t>(first_child) / 16;
+    Room &room = rooms[hash % rooms.size()];
+    if (room.tag != parent.tag || room.first_child != first_child) room = {parent.tag, first_child, 0};
     return room;
 }
 
@@ -92,12 +95,13 @@ static Room &room_of(const Datatree &parent)
 static bool grow_array(Datatree &parent, const Room &room)
 {
     if (moves_arrays.load(std::memory_order_relaxed) && parent.subtrees != nullptr) return move_array(parent);
-    constexpr size_t least = 2;
+    constexpr size_t unless_known = 2;
     constexpr size_t most_at_first = 32;
     const auto count = static_cast<size_t>(parent.subtree_count);
     size_t capacity = parent.subtrees != nullptr ? head_of(parent.subtrees)->size / sizeof(Datatree) : 0;
     if (capacity <= count) {
-        capacity = std::max(least, capacity == 0 ? std::min<size_t>(room.count, most_at_first) : count * 2);
+        const size_t known = std::min<size_t>(room.count, most_at_first);
+        capacity = count != 0 ? count * 2 : (known != 0 ? known : unless_known);
         void *block = grow_block(parent.subtrees, capacity * sizeof(Datatree));
         if (block == nullptr) return false;
         parent.subtrees = static_cast<Datatree *>(block);
@@ -120,7 +124,7 @@ static Datatree *append(MapContext *walk, Datatree &parent, ChildName name, uint
 {
     if (!has(parent, VMF_DT_SUBTREES)) parent.subtrees = nullptr;
     if (parent.subtrees == nullptr || parent.subtree_count < 0) parent.subtree_count = 0;
-    Room &room = room_of(parent);
+    Room &room = room_of(parent, name);
     if (!make_room(walk, parent, room)) return nullptr;
     if (ArrayIndex *index = head_of(parent.subtrees)->index) index->follow(parent.subtree_count, 1);
     parent.present[0] |= VMF_DT_SUBTREES;
