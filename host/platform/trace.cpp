@@ -3,6 +3,8 @@
 #include <atomic>
 #include <cstdarg>
 #include <cstdio>
+#include <cstdlib>
+#include <memory>
 
 #include "vmf_map_platform.h"
 
@@ -69,15 +71,14 @@ void _kos_dt_log_filter_adv(void *filter, uint64_t /*zero1*/, uint64_t /*zero2*/
 {
     const auto *log = static_cast<const LogFilter *>(filter);
     if (log == nullptr || !log->write) return;
+    char *text = nullptr;
     va_list arguments;
     va_start(arguments, format);
-    va_list again;
-    va_copy(again, arguments);
-    std::string line(static_cast<size_t>(std::vsnprintf(nullptr, 0, format, again)), '\0');
-    va_end(again);
-    std::vsnprintf(line.data(), line.size() + 1, format, arguments);
+    const int length = vasprintf(&text, format, arguments);
     va_end(arguments);
-    log->write(line, site);
+    if (length < 0) return;  // no memory
+    const std::unique_ptr<char, void (*)(void *)> owned(text, std::free);
+    log->write({text, static_cast<size_t>(length)}, site);
 }
 
 uint32_t ret_nc_vmf_trace_index_incr()
