@@ -13,7 +13,8 @@ bool is_accepted(const Request &request) { return request.outcome == VMF_RC_OK; 
 
 bool is_removal(const NativeNode &native)
 {
-    return native.operation == uint32_t{VMF_OP_DELETE} || native.operation == uint32_t{VMF_OP_REMOVE};
+    if (!native.operation) return false;
+    return *native.operation == VMF_OP_DELETE || *native.operation == VMF_OP_REMOVE;
 }
 
 // What was found about requests of one kind.

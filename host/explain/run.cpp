@@ -181,6 +181,7 @@ std::vector<NativeNode> nodes_of(const Datatree &native, const AddWatch &watch)
     collect_operations(native, at, positions);
     if (positions.empty() && !watch.level().empty()) positions.push_back(watch.level());
     std::vector<Found> all;
+    all.reserve(positions.size());
     for (const Position &position : positions) all.push_back(find_node(native, position));
     std::erase_if(all, [copy = all](const Found &found) { return is_said_by_entry(found, copy); });
     std::erase_if(all, [copy = all](const Found &found) { return is_on_the_way(found, copy); });

@@ -94,12 +94,12 @@ public:
 private:
     static bool has_key(const Datatree &node, const Key &key)
     {
-        for (const Datatree &child : platform::children_of(node)) {
+        const auto children = platform::children_of(node);
+        return std::any_of(children.begin(), children.end(), [&key](const Datatree &child) {
             const char *tag = platform::tag_of(child);
             const char *value = platform::value_of(child);
-            if (tag != nullptr && key.name == tag && value != nullptr && key.value == value) return true;
-        }
-        return false;
+            return tag != nullptr && key.name == tag && value != nullptr && key.value == value;
+        });
     }
 
     static const Datatree *find(const Datatree *parent, const Element &element)
