@@ -85,7 +85,7 @@ struct Given {
 Values samples_of_candidate(const Schema &native)
 {
     Values samples = samples_of(native.kind == Schema::Kind::list ? native.children.back() : native);
-    const bool is_plain_number = samples.size() == 1 && samples.front() != "" &&
+    const bool is_plain_number = samples.size() == 1 && !samples.front().empty() &&
                                  samples.front().find_first_not_of("0123456789") == std::string::npos;
     if (is_plain_number) samples.push_back("0");
     return samples;

@@ -173,11 +173,6 @@ static bool depends_on_value(const NativeNode &native, const Request &request, c
     });
 }
 
-static bool is_removal(const NativeNode &native)
-{
-    return native.operation == uint32_t{VMF_OP_DELETE} || native.operation == uint32_t{VMF_OP_REMOVE};
-}
-
 // How much of a native node is the target in another form.
 enum class Kinship { none, feeds_it, is_its_value };
 

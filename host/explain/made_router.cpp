@@ -83,7 +83,7 @@ std::vector<std::string> entries_of(const Schema &list, const EntryKeys &keys)
     if (tag == "four-byte-as") return {keys.as_low};
     if (tag == "neighbor") return {keys.neighbor};
     if (tag == "neighbor-group") return {keys.group};
-    const std::vector<std::string> families = keys.families.empty() ? all_families() : keys.families;
+    std::vector<std::string> families = keys.families.empty() ? all_families() : keys.families;
     if (tag == "af-data") return operational_words(families);
     if (tag == "af" || tag == "global-af" || tag == "neighbor-af" || tag == "neighbor-group-af") return families;
     return {};

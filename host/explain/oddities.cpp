@@ -11,12 +11,6 @@ using Lines = std::vector<std::string>;
 
 bool is_accepted(const Request &request) { return request.outcome == VMF_RC_OK; }
 
-bool is_removal(const NativeNode &native)
-{
-    if (!native.operation) return false;
-    return *native.operation == VMF_OP_DELETE || *native.operation == VMF_OP_REMOVE;
-}
-
 // What was found about requests of one kind.
 struct Finding {
     Kind kind;

@@ -8,6 +8,7 @@
 
 #include "made_router.h"
 #include "target.h"
+#include "vmf_map_types.h"
 
 namespace explain {
 
@@ -24,6 +25,12 @@ struct NativeNode {
         return a.path == b.path && a.value == b.value && a.operation == b.operation;
     }
 };
+
+inline bool is_removal(const NativeNode &native)
+{
+    if (!native.operation) return false;
+    return *native.operation == VMF_OP_DELETE || *native.operation == VMF_OP_REMOVE;
+}
 
 struct Run {
     uint32_t outcome = 0;
