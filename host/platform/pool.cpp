@@ -69,7 +69,7 @@ char *copy_text(std::string_view text)
     auto *piece = static_cast<char *>(take_piece(piece_class, size));
     if (piece == nullptr) return nullptr;
     *piece = static_cast<char>(piece_class);
-    std::memcpy(piece + 1, text.data(), text.size());
+    if (!text.empty()) std::memcpy(piece + 1, text.data(), text.size());
     piece[text.size() + 1] = '\0';
     return piece + 1;
 }
