@@ -9,6 +9,9 @@
 
 namespace fuzz {
 
+// What a program of mapping_mutator.cpp changes in its inputs.
+extern const Choice mapping_choice;
+
 // Has an item wherever somebody asks, as often as `items` says: an AS number, or a prefix limit.
 class AnyDatabase final : public platform::Database {
 public:

@@ -16,6 +16,10 @@ struct Format {
 extern const Format xml;
 extern const Format json;
 
+// The one that a program of reader_fuzzer.cpp reads, and the one that has to carry it too.
+extern const Format &tried_format;
+extern const Format &other_format;
+
 // What is refused is refused in a line that begins with the name of the file. What is accepted is a tree that is read
 // again as it was written, and that the other format can carry.
 void check_reader(std::string_view text, const Format &format, const Format &other);

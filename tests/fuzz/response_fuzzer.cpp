@@ -21,7 +21,6 @@ Choice make_choice()
     for (const Word &word : request_words) made.words.push_back(word.name);
     return made;
 }
-const Choice choice = make_choice();
 
 struct Run {
     Run(const TreeInput &input, bool is_traced)
@@ -109,21 +108,13 @@ void check_response(const TreeInput &input)
 }
 
 }  // namespace
+
+const Choice mapping_choice = make_choice();
+
 }  // namespace fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     fuzz::check_response(fuzz::read_input(fuzz::text_of(data, size)));
     return 0;
-}
-
-extern "C" size_t LLVMFuzzerCustomMutator(uint8_t *data, size_t size, size_t most, unsigned seed)
-{
-    return fuzz::mutate_text(data, size, most, seed, fuzz::choice);
-}
-
-extern "C" size_t LLVMFuzzerCustomCrossOver(const uint8_t *a, size_t a_size, const uint8_t *b, size_t b_size,
-                                            uint8_t *out, size_t most, unsigned seed)
-{
-    return fuzz::cross_texts(fuzz::text_of(a, a_size), fuzz::text_of(b, b_size), out, most, seed);
 }

@@ -12,9 +12,10 @@
 #include "walk_follower.h"
 
 namespace fuzz {
-namespace {
 
-const Choice choice = {{Model::openconfig}, {"kind", "items", "as", "fail", "once", "moves"}};
+const Choice mapping_choice = {{Model::openconfig}, {"kind", "items", "as", "fail", "once", "moves"}};
+
+namespace {
 
 // ---- What the tree of tags refuses ----------------------------------------------------------
 
@@ -195,15 +196,4 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     fuzz::check_walk(fuzz::read_input(fuzz::text_of(data, size)));
     return 0;
-}
-
-extern "C" size_t LLVMFuzzerCustomMutator(uint8_t *data, size_t size, size_t most, unsigned seed)
-{
-    return fuzz::mutate_text(data, size, most, seed, fuzz::choice);
-}
-
-extern "C" size_t LLVMFuzzerCustomCrossOver(const uint8_t *a, size_t a_size, const uint8_t *b, size_t b_size,
-                                            uint8_t *out, size_t most, unsigned seed)
-{
-    return fuzz::cross_texts(fuzz::text_of(a, a_size), fuzz::text_of(b, b_size), out, most, seed);
 }
