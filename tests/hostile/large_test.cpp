@@ -1,21 +1,11 @@
 // Inputs beyond all bounds: refused before they take much memory.
 #include "router.h"
+#include "sanitizers.h"
 
 namespace {
 
-// A sanitizer's shadow memory alone needs more address space than any limit.
-#if defined(__SANITIZE_ADDRESS__)
-#define HAS_SANITIZER
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define HAS_SANITIZER
-#endif
-#endif
-#ifdef HAS_SANITIZER
-constexpr char limited[] = "";
-#else
-constexpr char limited[] = "ulimit -v 2097152; ";  // kilobytes
-#endif
+// A sanitizer's shadow memory alone needs more address space than any limit. In kilobytes.
+constexpr const char *limited = is_sanitized ? "" : "ulimit -v 2097152; ";
 
 class Large : public HostileTest {
 protected:

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "pool.h"
+#include "sanitizers.h"
 #include "tree.h"
 
 using platform::class_of;
@@ -18,15 +19,18 @@ using platform::no_class;
 using platform::PieceClass;
 using platform::size_of_class;
 
-namespace {
+#if IS_ADDRESS_SANITIZED
 
-bool has_classes() { return class_of(1) != no_class; }
+// Every piece is one of malloc's then, so that what is used after its release is noticed.
+TEST(PieceClasses, AreNoneForTheAddressSanitizer)
+{
+    for (size_t size = 1; size <= 32769; size++) ASSERT_EQ(class_of(size), no_class) << size;
+}
 
-}  // namespace
+#else
 
 TEST(PieceClasses, HoldWhatWasAskedForAndHardlyMore)
 {
-    if (!has_classes()) return;  // every piece is one of malloc's then
     for (size_t size = 1; size <= 32768; size++) {
         const size_t held = size_of_class(class_of(size));
         ASSERT_GE(held, size);
@@ -37,6 +41,23 @@ TEST(PieceClasses, HoldWhatWasAskedForAndHardlyMore)
 }
 
 TEST(PieceClasses, AreNotForLargePieces) { EXPECT_EQ(class_of(32769), no_class); }
+
+TEST(Pieces, ThatAThreadLeavesAreTakenOverByTheNext)
+{
+    const PieceClass piece_class = class_of(20000);
+    void *left = nullptr;
+    std::thread([&] {
+        left = platform::take_piece(piece_class, 20000);
+        platform::give_back_piece(left, piece_class);
+    }).join();
+    std::thread([&] {
+        void *taken = platform::take_piece(piece_class, 20000);
+        EXPECT_EQ(taken, left);
+        platform::give_back_piece(taken, piece_class);
+    }).join();
+}
+
+#endif
 
 TEST(Pieces, DoNotOverlapAndAreUsedAgain)
 {
@@ -74,22 +95,6 @@ TEST(Pieces, OfOneThreadAreReleasedByAnother)
     EXPECT_STREQ(platform::value_of(platform::children_of(tree.root())[999]), "999");
     std::thread([&] { tree = platform::Tree(); }).join();
     EXPECT_TRUE(platform::children_of(tree.root()).empty());
-}
-
-TEST(Pieces, ThatAThreadLeavesAreTakenOverByTheNext)
-{
-    if (!has_classes()) return;
-    const PieceClass piece_class = class_of(20000);
-    void *left = nullptr;
-    std::thread([&] {
-        left = platform::take_piece(piece_class, 20000);
-        platform::give_back_piece(left, piece_class);
-    }).join();
-    std::thread([&] {
-        void *taken = platform::take_piece(piece_class, 20000);
-        EXPECT_EQ(taken, left);
-        platform::give_back_piece(taken, piece_class);
-    }).join();
 }
 
 TEST(Texts, OfAnyLengthAreCopied)

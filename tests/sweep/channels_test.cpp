@@ -4,8 +4,6 @@
 
 #include <algorithm>
 
-#include "observer.h"
-#include "request.h"
 #include "trees.h"
 
 namespace {
@@ -24,18 +22,6 @@ struct Heard {
     size_t operations = 0;
 };
 
-// Lets the operation of this number fail.
-struct Failing {
-    size_t number;
-    size_t count = 0;
-
-    static uint32_t before(void *self, const platform::Operation & /*operation*/)
-    {
-        auto &failing = *static_cast<Failing *>(self);
-        return ++failing.count == failing.number ? 0x77 : 0;
-    }
-};
-
 // Level and text of "TRC: VMF: ctx=0x1,Start" and of "#1: TRC: function:10 ctx=0x1,Start".
 std::string said(std::string line)
 {
@@ -46,8 +32,6 @@ std::string said(std::string line)
 Heard run(const Exchange &exchange, const Trees &trees, size_t failing_number, Channels channels)
 {
     Heard heard;
-    platform::SystemDatabase database;
-    for (const platform::DatabaseRecord &record : exchange.records) database.put(record);
     platform::TraceBuffer buffer(1);
     buffer.listener = [&heard](std::string_view line) {
         if (line.starts_with('#')) heard.trace.push_back(said(std::string(line)));  // else of a tree that is printed
@@ -58,18 +42,10 @@ Heard run(const Exchange &exchange, const Trees &trees, size_t failing_number, C
         filter->enabled = channels.log;
         filter->write = [&heard](std::string_view line, uint32_t *) { heard.log.push_back(said(std::string(line))); };
     }
-    framework::Request request(exchange.kind, database, log);
-    request.context().response_pending = exchange.response_pending;
-    platform::Tree tree = sweep::copy_of(trees.request), response = sweep::copy_of(trees.response), native, answer;
-    Failing failing = {failing_number};
-    const platform::Observer observer = {Failing::before, &failing};
-    platform::observe(&observer);
-    const uint32_t there = request.map(platform::children_of(tree.root()).front(), native.root());
-    const bool comes_back = there == VMF_RC_OK && !exchange.response.empty();
-    const uint32_t back = comes_back ? request.answer(std::move(response), answer) : 0;
-    platform::observe(nullptr);
-    heard.trees =
-        std::to_string(there) + " " + std::to_string(back) + "\n" + sweep::text_of(native) + sweep::text_of(answer);
+    sweep::Run run(exchange, log);
+    sweep::Failing failing = {failing_number};
+    run.go(trees, failing);
+    heard.trees = run.result();
     heard.operations = failing.count;
     return heard;
 }

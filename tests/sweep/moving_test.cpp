@@ -4,17 +4,16 @@
 #include <algorithm>
 
 #include "database_items.h"
-#include "observer.h"
-#include "request.h"
 #include "trees.h"
 
 namespace {
 
 using sweep::Exchange;
+using sweep::Failing;
 using sweep::Trees;
 
 // How often an exchange is run with one of its operations failing, twice each time.
-const size_t most_points = sweep::most_points() == SIZE_MAX ? 40 : 8;
+constexpr size_t most_points = 40;
 
 class Moving {
 public:
@@ -22,18 +21,6 @@ public:
     ~Moving() { platform::move_arrays_at_every_add(false); }
     Moving(const Moving &) = delete;
     Moving &operator=(const Moving &) = delete;
-};
-
-// Lets the operation of this number fail.
-struct Failing {
-    size_t number;
-    size_t count = 0;
-
-    static uint32_t before(void *self, const platform::Operation & /*operation*/)
-    {
-        auto &failing = *static_cast<Failing *>(self);
-        return ++failing.count == failing.number ? 0x77 : 0;
-    }
 };
 
 // Lets the last of the adds to a path fail.
@@ -46,7 +33,7 @@ struct FailingAtPath {
     {
         auto &failing = *static_cast<FailingAtPath *>(self);
         const bool is_at_path = operation.path != nullptr && std::string_view(operation.path).ends_with(failing.path);
-        return is_at_path && ++failing.count == failing.number ? 0x77 : 0;
+        return is_at_path && ++failing.count == failing.number ? sweep::injected : 0;
     }
 };
 
@@ -54,19 +41,10 @@ struct FailingAtPath {
 template<class Failing>
 std::string run(const Exchange &exchange, const Trees &trees, Failing &failing)
 {
-    platform::SystemDatabase database;
-    for (const platform::DatabaseRecord &record : exchange.records) database.put(record);
     platform::Log log;
-    framework::Request request(exchange.kind, database, log);
-    request.context().response_pending = exchange.response_pending;
-    platform::Tree tree = sweep::copy_of(trees.request), response = sweep::copy_of(trees.response), native, answer;
-    const platform::Observer observer = {Failing::before, &failing, nullptr};
-    platform::observe(&observer);
-    const uint32_t there = request.map(platform::children_of(tree.root()).front(), native.root());
-    const bool comes_back = there == VMF_RC_OK && !exchange.response.empty();
-    const uint32_t back = comes_back ? request.answer(std::move(response), answer) : 0;
-    platform::observe(nullptr);
-    return std::to_string(there) + " " + std::to_string(back) + "\n" + sweep::text_of(native) + sweep::text_of(answer);
+    sweep::Run run(exchange, log);
+    run.go(trees, failing);
+    return run.result();
 }
 
 }  // namespace

@@ -7,20 +7,14 @@
 #include <map>
 #include <set>
 
-#include "golden.h"
-#include "observer.h"
-#include "request.h"
-#include "tree_text.h"
 #include "trees.h"
 #include "vmf_map_platform.h"
-#include "write.h"
 
 namespace {
 
 using sweep::Exchange;
+using sweep::injected;
 using sweep::Trees;
-
-constexpr uint32_t injected = 0x77;
 
 // ---- What may come of a failure -------------------------------------------------------------
 
@@ -70,40 +64,26 @@ const Consequence *consequence_of(const std::string &operation)
 
 // ---- A run ----------------------------------------------------------------------------------
 
-// Counts the operations of a run, and lets one of them fail.
-class Failing {
-public:
-    Failing(size_t number, const platform::Tree &native) : number_(number), native_(native)
-    {
-        platform::observe(&observer_);
-    }
-    ~Failing() { platform::observe(nullptr); }
-    Failing(const Failing &) = delete;
-    Failing &operator=(const Failing &) = delete;
+// Counts the operations of a run, lets one of them fail, and keeps what was added until then.
+struct Witness {
+    size_t number;
+    const sweep::Run &run;
+    size_t count = 0;
+    std::string operation = {};  // that failed; empty: none yet
+    std::string path = {};
+    bool failed_there = false;  // not on the way back
+    std::string native_at_failure = {};
 
-    size_t count() const { return count_; }
-    const std::string &operation() const { return operation_; }  // that failed; empty: none yet
-    const std::string &path() const { return path_; }
-    const std::string &native_at_failure() const { return native_at_failure_; }
-
-private:
     static uint32_t before(void *self, const platform::Operation &operation)
     {
-        auto &failing = *static_cast<Failing *>(self);
-        if (++failing.count_ != failing.number_) return 0;
-        failing.operation_ = operation.name;
-        failing.path_ = operation.path != nullptr ? operation.path : "-";
-        failing.native_at_failure_ = sweep::text_of(failing.native_);
+        auto &failing = *static_cast<Witness *>(self);
+        if (++failing.count != failing.number) return 0;
+        failing.operation = operation.name;
+        failing.path = operation.path != nullptr ? operation.path : "-";
+        failing.failed_there = !failing.run.comes_back;
+        failing.native_at_failure = sweep::text_of(failing.run.native);
         return injected;
     }
-
-    const size_t number_;
-    const platform::Tree &native_;
-    size_t count_ = 0;
-    std::string operation_;
-    std::string path_;
-    std::string native_at_failure_;
-    const platform::Observer observer_ = {before, this};
 };
 
 struct Ended {
@@ -118,24 +98,13 @@ struct Ended {
 
 Ended run(const Exchange &exchange, const Trees &trees, size_t failing_number)
 {
-    platform::SystemDatabase database;
-    for (const platform::DatabaseRecord &record : exchange.records) database.put(record);
     platform::Log log;
-    framework::Request request(exchange.kind, database, log);
-    request.context().response_pending = exchange.response_pending;
-    platform::Tree tree = sweep::copy_of(trees.request), response = sweep::copy_of(trees.response), native, answer;
-    const Failing failing(failing_number, native);
-    Ended ended = {};
-    ended.there = request.map(platform::children_of(tree.root()).front(), native.root());
-    ended.failed_there = !failing.operation().empty();
-    if (ended.failed_there && ended.there == injected)
-        ended.lost_what_was_added = sweep::text_of(native) != failing.native_at_failure();
-    if (ended.there == VMF_RC_OK && !exchange.response.empty())
-        ended.back = request.answer(std::move(response), answer);
-    ended.operations = failing.count();
-    ended.operation = failing.operation();
-    ended.path = failing.path();
-    return ended;
+    sweep::Run run(exchange, log);
+    Witness failing = {failing_number, run};
+    run.go(trees, failing);
+    const bool is_lost =
+        failing.failed_there && run.there == injected && sweep::text_of(run.native) != failing.native_at_failure;
+    return {failing.count, failing.operation, failing.path, failing.failed_there, run.there, run.back, is_lost};
 }
 
 void expect_consequence(const Exchange &exchange, const Ended &without, const Ended &ended)
@@ -159,9 +128,7 @@ TEST(Sweep, EveryOperationFailsOnce)
     for (const Exchange &exchange : sweep::golden_set()) {
         const Trees trees(exchange);
         const Ended without = run(exchange, trees, 0);
-        const size_t step = std::max<size_t>(1, without.operations / sweep::most_points());
-        const size_t first = 1 + static_cast<size_t>(&exchange - sweep::golden_set().data()) % step;
-        for (size_t number = first; number <= without.operations; number += step) {
+        for (size_t number = 1; number <= without.operations; number++) {
             const Ended ended = run(exchange, trees, number);
             expect_consequence(exchange, without, ended);
 

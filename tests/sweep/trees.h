@@ -1,34 +1,19 @@
-// The trees of an exchange.
+// An exchange of the golden set, run on its own.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
 #include "golden.h"
+#include "observer.h"
+#include "request.h"
+#include "system_database.h"
 #include "tree.h"
 #include "tree_text.h"
 #include "write.h"
 
 namespace sweep {
-
-// How many of an exchange's operations fail, each in a run of its own: all of them, but for a sanitizer's time. `make
-// sweep` has all of them fail under the sanitizers.
-#if defined(__SANITIZE_ADDRESS__)
-#define HAS_SANITIZER
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define HAS_SANITIZER
-#endif
-#endif
-inline size_t most_points()
-{
-#ifdef HAS_SANITIZER
-    if (std::getenv("SWEEP_ALL") == nullptr) return 40;
-#endif
-    return SIZE_MAX;
-}
 
 inline std::string text_of(const platform::Tree &tree) { return io::write_tree(tree.root(), io::Secrets::shown); }
 
@@ -56,6 +41,61 @@ struct Trees {
     }
     platform::Tree request;
     platform::Tree response;
+};
+
+// The outcome of an operation that is made to fail.
+constexpr uint32_t injected = 0x77;
+
+// Counts the operations, and lets the one of this number fail; 0: none.
+struct Failing {
+    size_t number;
+    size_t count = 0;
+
+    static uint32_t before(void *self, const platform::Operation & /*operation*/)
+    {
+        auto &failing = *static_cast<Failing *>(self);
+        return ++failing.count == failing.number ? injected : 0;
+    }
+};
+
+// An exchange on its way there, and back if its request is mapped and has a response.
+class Run {
+public:
+    Run(const Exchange &exchange, platform::Log &log) : exchange_(exchange), request_(exchange.kind, database_, log)
+    {
+        for (const platform::DatabaseRecord &record : exchange.records) database_.put(record);
+        request_.context().response_pending = exchange.response_pending;
+    }
+
+    // `Failing::before` is asked before each operation of the platform.
+    template<class Failing>
+    void go(const Trees &trees, Failing &failing)
+    {
+        platform::Tree request = copy_of(trees.request), response = copy_of(trees.response);
+        const platform::Observer observer = {Failing::before, &failing, nullptr};
+        platform::observe(&observer);
+        there = request_.map(platform::children_of(request.root()).front(), native.root());
+        comes_back = there == VMF_RC_OK && !exchange_.response.empty();
+        if (comes_back) back = request_.answer(std::move(response), answer);
+        platform::observe(nullptr);
+    }
+
+    // Both outcomes and both trees.
+    std::string result() const
+    {
+        return std::to_string(there) + " " + std::to_string(back) + "\n" + text_of(native) + text_of(answer);
+    }
+
+    platform::Tree native;
+    platform::Tree answer;
+    uint32_t there = 0;
+    bool comes_back = false;
+    uint32_t back = 0;
+
+private:
+    const Exchange &exchange_;
+    platform::SystemDatabase database_;
+    framework::Request request_;
 };
 
 }  // namespace sweep
