@@ -42,13 +42,24 @@ ParsedPath parsed(const char *path)
         PathElement element;
         if (!next_element(rest, element)) return result;
         result.elements.push_back(element);
+        result.has_key |= element.key != nullptr;
     } while (!rest.empty());
     result.is_path = true;
     return result;
 }
 
-// A path is looked for by its address first, since most are literals; its text is compared all the same.
-thread_local constinit std::array<const ParsedPath *, 1024> by_address = {};
+// A path is looked for by its address first, since most are literals, and others are put together at one place: the
+// last two of an address, since those differ by a family of addresses. Its text is compared all the same.
+struct Slot {
+    const ParsedPath *last;
+    const ParsedPath *before;
+};
+thread_local constinit std::array<Slot, 1024> by_address = {};
+
+bool holds(const ParsedPath *parsed, const char *path)
+{
+    return parsed != nullptr && std::strcmp(parsed->text.c_str(), path) == 0;
+}
 
 class Cache {
 public:
@@ -77,9 +88,12 @@ thread_local Cache cache;
 
 const ParsedPath &parse_path(const char *path)
 {
-    const ParsedPath *&slot = by_address[reinterpret_cast<uintptr_t>(path) / 8 % by_address.size()];
-    if (slot == nullptr || std::strcmp(slot->text.c_str(), path) != 0) slot = &cache.find(path);
-    return *slot;
+    Slot &slot = by_address[reinterpret_cast<uintptr_t>(path) / 8 % by_address.size()];
+    if (!holds(slot.last, path)) {
+        const ParsedPath *other = holds(slot.before, path) ? slot.before : &cache.find(path);
+        slot = {other, slot.last};
+    }
+    return *slot.last;
 }
 
 }  // namespace platform

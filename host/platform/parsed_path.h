@@ -15,6 +15,7 @@ struct PathElement {
 struct ParsedPath {
     std::string text;
     bool is_path = false;  // its elements have names, and brackets come in pairs at their end
+    bool has_key = false;  // of one of its elements
     std::vector<PathElement> elements = {};
 };
 

@@ -61,24 +61,6 @@ void *grow_block(void *block, size_t size)
     return grown;
 }
 
-// The class stands in front of a text.
-char *copy_text(std::string_view text)
-{
-    const size_t size = text.size() + 2;
-    const PieceClass piece_class = class_of(size);
-    auto *piece = static_cast<char *>(take_piece(piece_class, size));
-    if (piece == nullptr) return nullptr;
-    *piece = static_cast<char>(piece_class);
-    if (!text.empty()) std::memcpy(piece + 1, text.data(), text.size());
-    piece[text.size() + 1] = '\0';
-    return piece + 1;
-}
-
-void release_text(char *text)
-{
-    if (text != nullptr) give_back_piece(text - 1, static_cast<PieceClass>(text[-1]));
-}
-
 }  // namespace platform
 
 extern "C" {

@@ -10,7 +10,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
+
+#include "pieces.h"
 
 namespace platform {
 
@@ -32,8 +35,23 @@ void release_block(void *block);
 // stands.
 void *grow_block(void *block, size_t size);
 
-// A copy of a text, ended by a NUL; null if there is no memory. `release_text` takes null too.
-char *copy_text(std::string_view text);
-void release_text(char *text);
+// A copy of a text, ended by a NUL; null if there is no memory. Its class stands in front of it.
+inline char *copy_text(std::string_view text)
+{
+    const size_t size = text.size() + 2;
+    const PieceClass piece_class = class_of(size);
+    auto *piece = static_cast<char *>(take_piece(piece_class, size));
+    if (piece == nullptr) return nullptr;
+    *piece = static_cast<char>(piece_class);
+    if (!text.empty()) std::memcpy(piece + 1, text.data(), text.size());
+    piece[text.size() + 1] = '\0';
+    return piece + 1;
+}
+
+// Takes null too.
+inline void release_text(char *text)
+{
+    if (text != nullptr) give_back_piece(text - 1, static_cast<PieceClass>(text[-1]));
+}
 
 }  // namespace platform

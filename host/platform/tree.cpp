@@ -75,7 +75,7 @@ static bool move_array(Datatree &parent)
 
 // How many children the last node of a tag had that began with the same child: the next one will have as many. Entries
 // of a list are alike, and an array that is right from the start neither moves nor leaves room unused.
-struct Room {
+struct alignas(32) Room {
     const char *tag;
     const char *first_child;
     uint32_t count;
@@ -99,22 +99,31 @@ static bool grow_array(Datatree &parent, const Room &room)
     constexpr size_t most_at_first = 32;
     const auto count = static_cast<size_t>(parent.subtree_count);
     size_t capacity = parent.subtrees != nullptr ? head_of(parent.subtrees)->size / sizeof(Datatree) : 0;
-    if (capacity <= count) {
-        const size_t known = std::min<size_t>(room.count, most_at_first);
-        capacity = count != 0 ? count * 2 : (known != 0 ? known : unless_known);
-        void *block = grow_block(parent.subtrees, capacity * sizeof(Datatree));
-        if (block == nullptr) return false;
-        parent.subtrees = static_cast<Datatree *>(block);
+    if (capacity > count) {
+        parent.subtree_capacity = static_cast<uint32_t>(capacity);
+        return true;
     }
+    const size_t known = std::min<size_t>(room.count, most_at_first);
+    capacity = count != 0 ? count * 2 : (known != 0 ? known : unless_known);
+    void *block = grow_block(parent.subtrees, capacity * sizeof(Datatree));
+    if (block == nullptr) return false;
+    parent.subtrees = static_cast<Datatree *>(block);
     parent.subtree_capacity = static_cast<uint32_t>(capacity);
     return true;
 }
 
-static bool make_room(MapContext *walk, Datatree &parent, const Room &room)
+static bool has_room(const Datatree &parent)
+{
+    if (parent.subtrees == nullptr || moves_arrays.load(std::memory_order_relaxed)) return false;
+    const size_t size = (static_cast<size_t>(parent.subtree_count) + 1) * sizeof(Datatree);
+    return size <= head_of(parent.subtrees)->size && std::cmp_greater(parent.subtree_capacity, parent.subtree_count);
+}
+
+[[gnu::noinline]] static bool make_room(MapContext *walk, Datatree &parent, const Room &room)
 {
     const auto old_array = reinterpret_cast<uintptr_t>(parent.subtrees);
     if (!grow_array(parent, room)) return false;
-    const bool has_moved = reinterpret_cast<uintptr_t>(parent.subtrees) != old_array;
+    const bool has_moved = old_array != 0 && reinterpret_cast<uintptr_t>(parent.subtrees) != old_array;
     if (has_moved && walk != nullptr) take_entries_along(*walk, old_array, parent);
     return true;
 }
@@ -125,8 +134,9 @@ static Datatree *append(MapContext *walk, Datatree &parent, ChildName name, uint
     if (!has(parent, VMF_DT_SUBTREES)) parent.subtrees = nullptr;
     if (parent.subtrees == nullptr || parent.subtree_count < 0) parent.subtree_count = 0;
     Room &room = room_of(parent, name);
-    if (!make_room(walk, parent, room)) return nullptr;
-    if (ArrayIndex *index = head_of(parent.subtrees)->index) index->follow(parent.subtree_count, 1);
+    if (!has_room(parent) && !make_room(walk, parent, room)) return nullptr;
+    if (ArrayIndex *index = head_of(parent.subtrees)->index) [[unlikely]]
+        index->follow(parent.subtree_count, 1);
     parent.present[0] |= VMF_DT_SUBTREES;
     Datatree &child = parent.subtrees[parent.subtree_count++];
     room.count = static_cast<uint32_t>(parent.subtree_count);
@@ -206,8 +216,8 @@ static bool is_named(const Datatree &node, ChildName name)
     return node.tag == name.tag && (name.ns == nullptr || node.namespace_ == name.ns);
 }
 
-// `name` is of the table of names, here and below.
-static Datatree *find_child(Datatree &parent, ChildName name)
+// Arrays that are large, or hold names of a document's own.
+[[gnu::noinline]] static Datatree *find_child_anywhere(Datatree &parent, ChildName name)
 {
     const std::span<Datatree> all = children(parent);
     if (all.size() >= indexed_from) {
@@ -216,6 +226,18 @@ static Datatree *find_child(Datatree &parent, ChildName name)
     }
     for (Datatree &child : all)
         if (is_named(child, name)) return &child;
+    return nullptr;
+}
+
+// `name` is of the table of names, here and below.
+static inline Datatree *find_child(Datatree &parent, ChildName name)
+{
+    const std::span<Datatree> all = children(parent);
+    if (all.size() >= indexed_from) return find_child_anywhere(parent, name);
+    for (Datatree &child : all) {
+        if ((child.present[1] & named_by_table) == 0) return find_child_anywhere(parent, name);
+        if (child.tag == name.tag && (name.ns == nullptr || child.namespace_ == name.ns)) return &child;
+    }
     return nullptr;
 }
 
@@ -260,11 +282,11 @@ static void note_write(Datatree &node, const Source &source)
 }
 
 // A new value is of no module until that is told anew.
-static uint32_t give(Datatree &node, const char *value, const Source &source)
+static inline uint32_t give(Datatree &node, const char *value, const Source &source)
 {
     if (value != nullptr) {
         if (!set_value(node, value)) return VMF_RC_NO_MEMORY;
-        set_data_namespace(node, nullptr);
+        node.data_namespace = nullptr;
     }
     if (source.has_operation) set_operation(node, source.operation);
     return VMF_RC_OK;
@@ -325,22 +347,20 @@ static Added add_path(Datatree &root, const char *text, const Request &request)
 {
     const ParsedPath &path = parse_path(text);
     if (!path.is_path) return {VMF_RC_BAD_ARGS, nullptr};
+    const PathElement *repeated = request.repeat && !path.has_key ? &path.elements.back() : nullptr;
     Datatree *node = &root;
-    bool value_named_key = false;
     for (const PathElement &element : path.elements) {
         const ChildName name = {element.name, request.ns};
-        if (element.key != nullptr) {
+        if (element.key != nullptr)
             node = find_or_append_entry(request.walk, *node, name, element.key, request.value);
-            value_named_key = true;
-        } else if (request.repeat && !value_named_key && &element == &path.elements.back()) {
+        else if (&element == repeated)
             node = append_named(request.walk, *node, name);
-        } else {
+        else
             node = find_or_append(request.walk, *node, name);
-        }
         if (node == nullptr) return {VMF_RC_NO_MEMORY, nullptr};
         note_write(*node, request.source);
     }
-    return {give(*node, value_named_key ? nullptr : request.value, request.source), node};
+    return {give(*node, path.has_key ? nullptr : request.value, request.source), node};
 }
 
 static uint32_t add_path_operation(const char *operation, MapContext *walk, Datatree *parent, const char *path,
