@@ -1,5 +1,6 @@
 #include "response.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "observer.h"
@@ -16,8 +17,18 @@ void clear_children(Datatree &node)
     node.subtree_capacity = 0;
 }
 
+// A node that owns the children of another.
+Datatree children_alone(const Datatree &node)
+{
+    Datatree owner = {};
+    owner.subtrees = node.subtrees;
+    owner.subtree_count = node.subtree_count;
+    owner.present[0] = node.present[0] & VMF_DT_SUBTREES;
+    return owner;
+}
+
 // Notices that an entry hands the mapped tree over to the response: whoever has the children afterwards, it is not the
-// mapped tree alone any more.
+// mapped tree alone any more. A response that had an OpenConfig tree before gives up that one's children for them.
 class HandOver {
 public:
     HandOver(const Datatree &response, const Datatree &mapped) : response_(response), mapped_(mapped)
@@ -34,25 +45,37 @@ public:
     // Releases the children that the response did not take.
     void release_children() { platform::release(children_); }
 
+    // Releases those that it had before, if it has others now.
+    void release_former_children()
+    {
+        const auto trees = platform::children_of(response_);
+        const bool are_kept = std::any_of(trees.begin(), trees.end(),
+                                          [this](const Datatree &tree) { return tree.subtrees == former_.subtrees; });
+        if (!are_kept) platform::release(former_);
+    }
+
 private:
     static uint32_t before(void *self, const platform::Operation &operation)
     {
         auto &watch = *static_cast<HandOver *>(self);
-        if (operation.parent == &watch.response_ && std::strcmp(operation.name, "vmf_map_datatree_add_subtree") == 0) {
+        if (watch.is_hand_over(operation)) {
             watch.was_tried_ = true;
-            watch.children_ = {};
-            const Datatree &root = platform::children_of(watch.mapped_).front();
-            watch.children_.subtrees = root.subtrees;
-            watch.children_.subtree_count = root.subtree_count;
-            watch.children_.present[0] = root.present[0] & VMF_DT_SUBTREES;
+            watch.children_ = children_alone(platform::children_of(watch.mapped_).front());
         }
         return watch.outer_ != nullptr ? watch.outer_->before(watch.outer_->self, operation) : 0;
     }
 
     static void after(void *self, const platform::Operation &operation, const Datatree &result)
     {
-        const platform::Observer *outer = static_cast<HandOver *>(self)->outer_;
+        auto &watch = *static_cast<HandOver *>(self);
+        if (watch.is_hand_over(operation)) watch.former_ = children_alone(result);
+        const platform::Observer *outer = watch.outer_;
         if (outer != nullptr && outer->after != nullptr) outer->after(outer->self, operation, result);
+    }
+
+    bool is_hand_over(const platform::Operation &operation) const
+    {
+        return operation.parent == &response_ && std::strcmp(operation.name, "vmf_map_datatree_add_subtree") == 0;
     }
 
     const Datatree &response_;
@@ -61,6 +84,7 @@ private:
     const platform::Observer *outer_ = nullptr;
     bool was_tried_ = false;
     Datatree children_ = {};
+    Datatree former_ = {};
 };
 
 bool is_of(const Datatree &tree, const char *ns)
@@ -100,6 +124,7 @@ uint32_t Response::call_beside(Entry *entry, Datatree *native_tree)
     HandOver hand_over(trees_.root(), mapped);
     const uint32_t outcome = entry(&run, &trees_.root(), native_tree, &mapped, &skip_subtree);
     if (!hand_over.was_tried()) return outcome;
+    hand_over.release_former_children();
     if (entry == vmf_map_zr_cfg_bgp_to_oc) {
         if (outcome != VMF_RC_OK) hand_over.release_children();
         mapped = {};  // its root is gone

@@ -1,6 +1,8 @@
 #include "native_xml.h"
 
+#include <algorithm>
 #include <cstring>
+#include <vector>
 
 namespace router {
 
@@ -138,12 +140,7 @@ static Data parse(const std::string &text, Check check)
     return Data(data);
 }
 
-static void copy_node(const lyd_node &node, Branch &parent);
-
-static void copy_children(const lyd_node *first, Branch &branch)
-{
-    for (const lyd_node *node = first; node != nullptr; node = node->next) copy_node(*node, branch);
-}
+static void copy_children(const lyd_node *first, Branch &branch);
 
 [[noreturn]] static void fail_as_duplicate(const lyd_node &node)
 {
@@ -165,22 +162,32 @@ static void copy_entry(const lyd_node &node, Branch &parent, const Schema &schem
     entries.add(std::move(entry));
 }
 
-// A container without anything in it is none.
-static void copy_node(const lyd_node &node, Branch &parent)
+// A container without anything in it is none: false then.
+static bool copy_container(const lyd_node &node, Branch &parent, const Schema &schema)
 {
-    const Schema &schema = *static_cast<const Schema *>(node.schema->priv);
-    if (schema.kind == Schema::Kind::list || schema.kind == Schema::Kind::leaf_list)
-        return copy_entry(node, parent, schema);
-    if (schema.kind == Schema::Kind::container && lyd_child(&node) == nullptr) return;
-    if (find_member(parent, schema) != nullptr) fail_as_duplicate(node);
-    Member &member = member_of(parent, schema);
-    if (schema.kind == Schema::Kind::leaf) {
-        member.content = std::string(lyd_get_value(&node));
-        return;
-    }
-    Branch &branch = own_branch(member);
+    Branch &branch = own_branch(member_of(parent, schema));
     copy_children(lyd_child(&node), branch);
-    if (branch.members.empty()) remove_member(parent, schema);
+    const bool has_content = !branch.members.empty();
+    if (!has_content) remove_member(parent, schema);
+    return has_content;
+}
+
+static void copy_children(const lyd_node *first, Branch &branch)
+{
+    std::vector<const Schema *> empty;
+    for (const lyd_node *node = first; node != nullptr; node = node->next) {
+        const Schema &schema = *static_cast<const Schema *>(node->schema->priv);
+        if (schema.kind == Schema::Kind::list || schema.kind == Schema::Kind::leaf_list) {
+            copy_entry(*node, branch, schema);
+            continue;
+        }
+        const bool was_empty = std::find(empty.begin(), empty.end(), &schema) != empty.end();
+        if (was_empty || find_member(branch, schema) != nullptr) fail_as_duplicate(*node);
+        if (schema.kind == Schema::Kind::leaf)
+            member_of(branch, schema).content = std::string(lyd_get_value(node));
+        else if (!copy_container(*node, branch, schema))
+            empty.push_back(&schema);
+    }
 }
 
 static void check_top(const lyd_node *top, const Schema &root)

@@ -27,6 +27,9 @@ const std::string other_tree = "interfaces <urn:other>\n"
                                "  interface\n"
                                "    name = lo0\n";
 
+const std::string mapped_tree = "bgp oc-bgp\n"
+                                "  neighbors\n";
+
 const std::string from_cfg = "bgp oc-bgp\n"
                              "  global\n"
                              "    config\n"
@@ -69,6 +72,10 @@ const Way ways[] = {
     {"a_get_keeps_both_beside", VMF_REQ_GET, 1, 0, cfg_tree + oper_tree, from_both},
     {"a_get_adds_what_the_operational_tree_alone_gives", VMF_REQ_GET, 1, 0, other_tree + oper_tree, from_oper},
     {"an_edit_of_nothing_that_is_mapped", VMF_REQ_EDIT, 0, 0, "bgp zr-cfg\n", ""},
+    // Beside an OpenConfig tree that somebody else put there.
+    {"an_edit_replaces_what_was_mapped_before", VMF_REQ_EDIT, 0, 0, mapped_tree + cfg_tree, from_cfg},
+    {"a_get_replaces_what_was_mapped_before", VMF_REQ_GET, 1, 0, mapped_tree + oper_tree, from_oper},
+    {"an_edit_keeps_what_was_mapped_before", VMF_REQ_EDIT, 0, 0, mapped_tree + "bgp zr-cfg\n", mapped_tree},
 };
 
 std::string way_name(const testing::TestParamInfo<Way> &tested) { return tested.param.name; }

@@ -351,6 +351,7 @@ const DamageCase damages[] = {
      ":11: damaged: " + vrf_path + "/global: ", "colour"},
     {"LeafTwiceFarBelow", in_default_vrf("<global>\n<graceful-restart/>\n<graceful-restart/>\n</global>\n"), ":",
      "damaged: " + vrf_path + "/global/graceful-restart: "},
+    {"EmptyContainerTwice", in_default_vrf("<global/>\n<global/>\n"), ":", "damaged: " + vrf_path + "/global: "},
     {"EntryWithoutItsKey", "<bgp xmlns=\"CFG\">\n<instance>\n</instance>\n</bgp>\n",
      ":3: damaged: /bgp/instance: ", "instance-name"},
     {"TwoTrees", "<bgp xmlns=\"CFG\"/><bgp xmlns=\"CFG\"/>", ": damaged: "},
@@ -388,6 +389,20 @@ TEST_P(Damage, IsNamedWithFileAndLine)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Damage, testing::ValuesIn(damages), name_of_case<DamageCase>);
+
+// libyang lets an empty container go when it checks a model, but a candidate is not checked before it is committed.
+TEST(Opening, RefusesACandidateThatHasAContainerTwiceThoughOneIsEmpty)
+{
+    const Folder folder;
+    Router::create(folder.path());
+    const std::string empty = "<global>\n<global-afs/>\n</global>\n";
+    const std::string filled = "<global>\n<graceful-restart/>\n</global>\n";
+    for (const std::string &twice : {empty + filled, filled + empty, empty + empty}) {
+        write_file(folder / "candidate.xml", damaged_text({"", in_default_vrf(twice), ""}));
+        EXPECT_EQ(error_of_opening(folder.path()),
+                  (folder / "candidate.xml").string() + ": damaged: " + vrf_path + "/global: data that stands twice");
+    }
+}
 
 TEST(Opening, DoesNotQuoteADamagedPassword)
 {
