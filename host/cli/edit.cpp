@@ -1,6 +1,8 @@
 #include "edit.h"
 
 #include <iostream>
+#include <optional>
+#include <utility>
 
 #include "difference.h"
 #include "exit_codes.h"
@@ -65,17 +67,17 @@ int edit(const EditOptions &options)
     const std::string text = io::read_input(options.file);  // which a person may type
     Progress progress(options.is_quiet || options.trace);
     progress.step("reading");
-    const io::Document document = read_edit(text, options.file);
+    std::optional<io::Document> first = read_edit(text, options.file);
     router::Router router(options.router.folder, options.router.wait());
 
     TracePrinter trace(options.router.secrets);
-    trace.hide(document.bgp.root());
+    trace.hide(first->bgp.root());
     framework::MappedRequest::Setting setting;
     setting.read = [&] {
-        progress.step("reading");
-        io::Document again = read_edit(text, options.file);
-        progress.count_entries(again.bgp.root());
-        return again;
+        io::Document document = first ? std::move(*first) : read_edit(text, options.file);
+        first.reset();
+        progress.count_entries(document.bgp.root());
+        return document;
     };
     setting.kind = VMF_REQ_EDIT;
     setting.database = &router.database();
@@ -86,7 +88,7 @@ int edit(const EditOptions &options)
     if (mapped.outcome() != VMF_RC_OK) {
         progress.finish();
         print_refusal(mapped.refusal());
-        if (options.rpc_error) print_rpc_error(mapped.refusal(), document.bgp.root());
+        if (options.rpc_error) print_rpc_error(mapped.refusal(), read_edit(text, options.file).bgp.root());
         return exit_refused;
     }
     try {
@@ -96,7 +98,7 @@ int edit(const EditOptions &options)
         progress.finish();
         const auto origin_of = [&](const std::string &native_path) { return mapped.origin_of(native_path); };
         print_violations(refused, origin_of);
-        if (options.rpc_error) print_rpc_errors(refused, &document.bgp.root(), origin_of);
+        if (options.rpc_error) print_rpc_errors(refused, &read_edit(text, options.file).bgp.root(), origin_of);
         return exit_refused_by_router;
     }
 }

@@ -1,6 +1,7 @@
 // What the readers of XML and JSON have in common.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -17,7 +18,11 @@ namespace io {
 constexpr std::string_view white_space = " \t\r\n";  // of XML and of JSON
 constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 
-inline bool is_blank(std::string_view text) { return text.find_first_not_of(white_space) == std::string_view::npos; }
+constexpr bool is_white_space(char character)
+{
+    return std::find(white_space.begin(), white_space.end(), character) != white_space.end();
+}
+inline bool is_blank(std::string_view text) { return std::all_of(text.begin(), text.end(), is_white_space); }
 
 std::string_view trimmed(std::string_view text);
 

@@ -8,21 +8,28 @@ namespace router {
 
 // ---- Writing --------------------------------------------------------------------------------
 
-// A carriage return would be read as a line end.
+// What XML cannot have in a text as it stands. A carriage return would be read as a line end.
+static const char *escape_of(char character)
+{
+    switch (character) {
+    case '<': return "&lt;";
+    case '>': return "&gt;";
+    case '&': return "&amp;";
+    case '\r': return "&#13;";
+    default: return nullptr;
+    }
+}
+
 static void write_text(std::string &out, std::string_view text)
 {
-    for (size_t special = text.find_first_of("<>&\r"); special != std::string_view::npos;
-         special = text.find_first_of("<>&\r")) {
-        out.append(text.substr(0, special));
-        switch (text[special]) {
-        case '<': out += "&lt;"; break;
-        case '>': out += "&gt;"; break;
-        case '&': out += "&amp;"; break;
-        default: out += "&#13;"; break;
-        }
-        text.remove_prefix(special + 1);
+    size_t written = 0;
+    for (size_t at = 0; at < text.size(); at++) {
+        const char *escape = escape_of(text[at]);
+        if (escape == nullptr) continue;
+        out.append(text.substr(written, at - written)).append(escape);
+        written = at + 1;
     }
-    out.append(text);
+    out.append(text.substr(written));
 }
 
 static void write_leaf(std::string &out, const char *tag, std::string_view value)
