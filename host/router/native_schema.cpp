@@ -131,7 +131,7 @@ static bool is_xml_text(std::string_view text)
     return true;
 }
 
-std::optional<std::string> canonical_value(const Schema &terminal, std::string_view value, std::string *why)
+static std::optional<std::string> canonical_by_type(const Schema &terminal, std::string_view value, std::string *why)
 {
     if (!is_xml_text(value)) {
         if (why != nullptr) *why = "a value with a character that XML does not have";
@@ -147,6 +147,20 @@ std::optional<std::string> canonical_value(const Schema &terminal, std::string_v
     std::string text = canonical;
     lydict_remove(context, canonical);
     return text;
+}
+
+// Entries of a list are alike: most values are those that the leaf had in the entry before.
+std::optional<std::string> canonical_value(const Schema &terminal, std::string_view value, std::string *why)
+{
+    struct Last {
+        std::string value, canonical;
+    };
+    thread_local std::unordered_map<const Schema *, Last> last_of;
+    if (const auto last = last_of.find(&terminal); last != last_of.end() && last->second.value == value)
+        return last->second.canonical;
+    std::optional<std::string> canonical = canonical_by_type(terminal, value, why);
+    if (canonical) last_of[&terminal] = {std::string(value), *canonical};
+    return canonical;
 }
 
 }  // namespace router

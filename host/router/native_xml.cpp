@@ -135,9 +135,11 @@ using Data = std::unique_ptr<lyd_node, FreeData>;
 
 }  // namespace
 
-static Data parse(const std::string &text, Check check)
+// `order` may be LYD_PARSE_ORDERED for a text of write_xml(), which has everything in the order of the model.
+static Data parse(const std::string &text, Check check, uint32_t order = 0)
 {
-    const uint32_t parse_options = LYD_PARSE_STRICT | (check == Check::structure ? uint32_t{LYD_PARSE_ONLY} : 0);
+    const uint32_t parse_options =
+        LYD_PARSE_STRICT | order | (check == Check::structure ? uint32_t{LYD_PARSE_ONLY} : 0);
     const uint32_t check_options = check == Check::model ? uint32_t{LYD_VALIDATE_PRESENT} : 0;
     lyd_node *data = nullptr;
     ly_err_clean(models().context, nullptr);
@@ -237,6 +239,6 @@ std::shared_ptr<Branch> read_xml(const std::string &text, const Schema &root, Ch
     }
 }
 
-void check_xml(const std::string &text) { parse(text, Check::model); }
+void check_xml(const std::string &text) { parse(text, Check::model, LYD_PARSE_ORDERED); }
 
 }  // namespace router
