@@ -22,19 +22,15 @@ Table &table()
     return *the_table;
 }
 
-// What this thread has asked for before, so that it need not take the lock again.
-thread_local std::unordered_set<std::string_view> seen;
-
 }  // namespace
 
 const char *intern(std::string_view text)
 {
-    if (auto found = seen.find(text); found != seen.end()) return found->data();
+    if (const char *known = find_interned(text)) return known;
     Table &names = table();
     std::unique_lock lock(names.mutex);
     auto found = names.known.find(text);
     if (found == names.known.end()) found = names.known.insert(names.texts.emplace_back(text)).first;
-    seen.insert(*found);
     return found->data();
 }
 

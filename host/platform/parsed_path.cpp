@@ -1,11 +1,11 @@
 #include "parsed_path.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
-#include <memory>
 #include <string_view>
-#include <unordered_map>
+#include <unordered_set>
 
 #include "names.h"
 
@@ -37,6 +37,7 @@ ParsedPath parsed(const char *path)
 {
     ParsedPath result{path};
     std::string_view rest = result.text;
+    result.elements.reserve(1 + static_cast<size_t>(std::count(rest.begin(), rest.end(), '/')));
     if (rest.starts_with('/')) rest.remove_prefix(1);
     do {
         PathElement element;
@@ -61,25 +62,35 @@ bool holds(const ParsedPath *parsed, const char *path)
     return parsed != nullptr && std::strcmp(parsed->text.c_str(), path) == 0;
 }
 
+struct TextHash {
+    using is_transparent = void;
+    size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
+    size_t operator()(const ParsedPath &path) const { return (*this)(std::string_view(path.text)); }
+};
+struct SameText {
+    using is_transparent = void;
+    bool operator()(const ParsedPath &a, const ParsedPath &b) const { return a.text == b.text; }
+    bool operator()(const ParsedPath &a, std::string_view b) const { return a.text == b; }
+    bool operator()(std::string_view a, const ParsedPath &b) const { return a == b.text; }
+};
+
 class Cache {
 public:
     const ParsedPath &find(const char *path)
     {
-        if (auto found = by_text_.find(path); found != by_text_.end()) return *found->second;
+        if (auto found = by_text_.find(std::string_view(path)); found != by_text_.end()) return *found;
         if (by_text_.size() >= limit) {
             by_text_.clear();
             by_address = {};
         }
-        auto fresh = std::make_unique<ParsedPath>(parsed(path));
-        const std::string_view text = fresh->text;
-        return *by_text_.emplace(text, std::move(fresh)).first->second;
+        return *by_text_.insert(parsed(path)).first;
     }
 
 private:
     // More than the mapping has: paths that a caller makes up do not pile up.
     static constexpr size_t limit = 4096;
 
-    std::unordered_map<std::string_view, std::unique_ptr<ParsedPath>> by_text_ = {};
+    std::unordered_set<ParsedPath, TextHash, SameText> by_text_;  // stay where they are when more come
 };
 
 thread_local Cache cache;
