@@ -1,5 +1,7 @@
 """docs/performance.md, from the figures of bench/run.py."""
 
+import statistics
+
 NAMES = {
     "ours": "**this library (L)**",
     "mapping": "**the mapping alone (W)**",
@@ -29,11 +31,11 @@ class Figures:
     def has(self, peer):
         return peer in self.all["times"]
 
-    def time(self, peer, way, neighbors):
-        return self.all["times"][peer][way][str(neighbors)]["median"]
-
-    def ratio(self, peer, other, way, neighbors=10_000):
-        return self.time(peer, way, neighbors) / self.time(other, way, neighbors)
+    def ratio(self, peer, other, way, neighbors=10_000, of_other=None):
+        """The median of the rounds' ratios: what else the machine does meets the peers of a round alike."""
+        times = self.all["times"]
+        runs = [times[peer][way][str(neighbors)]["runs"], times[other][way][str(of_other or neighbors)]["runs"]]
+        return statistics.median(a / b for a, b in zip(*runs, strict=False))
 
     def slope(self, peer, way):
         few, many = self.all["instructions"][peer][way].values()
@@ -96,7 +98,7 @@ def trip_row(figures):
 
 def goals(figures):
     heap = figures.all["heap"]["target"]["ours"]
-    slopes = {way: figures.time("ours", way, 100_000) / figures.time("ours", way, 10_000) for way in WAYS}
+    slopes = {way: figures.ratio("ours", "ours", way, 100_000, 10_000) for way in WAYS}
     return [
         faster_row(figures, "libxslt", "forward", 5, 8),
         faster_row(figures, "libxslt", "back", 8, 12),
@@ -194,7 +196,7 @@ def short(function):
 def markdown(raw, notes):
     figures = Figures(raw)
     on = raw["machine"]
-    runs = raw["times"]["ours"]["forward"][figures.sizes[0]]["runs"]
+    runs, runs_of_most = (len(raw["times"]["ours"]["forward"][size]["runs"]) for size in figures.sizes[::2])
     trip = raw["trip"]
     profiles = "\n\n".join(f"{NAMES[name.split()[0]]}, {WAYS[name.split()[1]]}:\n\n{profile_table(profile)}"
                            for name, profile in raw["profiles"].items())
@@ -232,7 +234,8 @@ A test compares the trees of all of them with the library's.
 
 {own_words}## CPU time
 
-Microseconds a neighbor: the median of {runs} runs in fresh processes, which took turns, with the minimum in brackets.
+Microseconds a neighbor: the median of {runs} runs in fresh processes ({runs_of_most} of 100,000), which took turns, with
+the minimum in brackets. A ratio above is the median of the rounds' ratios.
 
 {times_table(figures, "forward")}
 
