@@ -1,5 +1,6 @@
 // What the built library exports: the contract's names, with their bindings, and nothing else.
 #include <cstdio>
+#include <fstream>
 #include <memory>
 #include <set>
 

@@ -5,11 +5,8 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <functional>
 #include <map>
-#include <nlohmann/json.hpp>
 #include <sstream>
 
 #include "mapping_run.h"
@@ -218,17 +215,7 @@ struct Node {
     std::string tag() const { return path.substr(path.rfind('/') + 1); }
 };
 
-inline std::vector<Node> *read_nodes(const char *module)
-{
-    auto *list = new std::vector<Node>;
-    for (const auto &node :
-         nlohmann::json::parse(std::ifstream(std::string(SOURCE_DIR "/models/") + module + ".nodes.json"))) {
-        const auto field = [&](const char *name) { return node.value(name, std::string()); };
-        list->push_back({field("path"), field("kind"), field("key"), field("walker"), field("handler"),
-                         field("binding"), field("default"), field("man")});
-    }
-    return list;
-}
+std::vector<Node> *read_nodes(const char *module);
 
 inline const std::vector<Node> &nodes()
 {
@@ -279,22 +266,7 @@ inline uint32_t call(const Node &node, const std::string &symbol, MapContext *ct
 
 using SourceFile = Lines;
 
-inline const std::map<std::string, SourceFile> &sources()
-{
-    static const auto *const files = [] {
-        namespace fs = std::filesystem;
-        auto *all = new std::map<std::string, SourceFile>;
-        for (const auto &entry :
-             fs::recursive_directory_iterator(SOURCE_DIR "/manageability/yang/framework/mapping/src")) {
-            if (entry.path().extension() != ".cpp") continue;
-            SourceFile &file = (*all)[fs::relative(entry.path(), SOURCE_DIR).string()];
-            std::ifstream in(entry.path());
-            for (std::string line; std::getline(in, line);) file.push_back(line);
-        }
-        return all;
-    }();
-    return *files;
-}
+const std::map<std::string, SourceFile> &sources();
 
 // The line at which the definition begins that this line lies in: the nearest one above that is not indented.
 inline std::string definition_around(const SourceFile &file, size_t line)
