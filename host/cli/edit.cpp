@@ -74,6 +74,7 @@ int edit(const EditOptions &options)
     trace.hide(first->bgp.root());
     framework::MappedRequest::Setting setting;
     setting.read = [&] {
+        progress.step("reading");
         io::Document document = first ? std::move(*first) : read_edit(text, options.file);
         first.reset();
         progress.count_entries(document.bgp.root());

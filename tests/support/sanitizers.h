@@ -22,5 +22,4 @@
 #define IS_THREAD_SANITIZED false
 #endif
 
-constexpr bool is_address_sanitized = IS_ADDRESS_SANITIZED;
 constexpr bool is_sanitized = IS_ADDRESS_SANITIZED || IS_THREAD_SANITIZED;
