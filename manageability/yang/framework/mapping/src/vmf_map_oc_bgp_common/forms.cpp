@@ -10,18 +10,6 @@ void raise_flags(MapContext *ctx, Flags flags)
 
 // ---- What an add is given -------------------------------------------------------------------
 
-static uint32_t kind_of(const MapContext *ctx) { return ctx->request->request_info->kind; }
-
-bool is_get(const MapContext *ctx) { return kind_of(ctx) == VMF_REQ_GET; }
-
-bool is_read(const MapContext *ctx) { return kind_of(ctx) == VMF_REQ_GET_CONFIG || is_get(ctx); }
-
-Branch branch_of(const MapContext *ctx, const Datatree *node)
-{
-    if (is_read(ctx)) return Branch::read;
-    return vmf_map_is_request_delete(node) != 0 ? Branch::remove : Branch::write;
-}
-
 Given leaf_gives(const MapContext *ctx, const Datatree *node)
 {
     switch (branch_of(ctx, node)) {

@@ -6,6 +6,7 @@
 #include <initializer_list>
 
 #include "frame.h"
+#include "kind.h"
 #include "native_paths.h"
 #include "node.h"
 #include "outcome.h"
@@ -69,9 +70,11 @@ inline Given constant(const char *value, const Datatree *node) { return {value, 
 
 // A read selects, a removal names what goes, everything else writes. Every handler's first test.
 enum class Branch : uint8_t { read, remove, write };
-bool is_read(const MapContext *ctx);  // get-config or get
-bool is_get(const MapContext *ctx);
-Branch branch_of(const MapContext *ctx, const Datatree *node);
+inline Branch branch_of(const MapContext *ctx, const Datatree *node)
+{
+    if (is_read(ctx)) return Branch::read;
+    return vmf_map_is_request_delete(node) != 0 ? Branch::remove : Branch::write;
+}
 
 // The pair of the branch: a leaf writes its value with itself as source, a container writes neither.
 Given leaf_gives(const MapContext *ctx, const Datatree *node);

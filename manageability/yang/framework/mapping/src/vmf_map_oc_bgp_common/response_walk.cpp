@@ -1,6 +1,7 @@
 #include "response_walk.h"
 
 #include "frame.h"
+#include "kind.h"
 #include "node.h"
 
 static uint32_t refuse_corrupt(MapContext *ctx, const At &at)
@@ -14,7 +15,7 @@ static uint32_t refuse_corrupt(MapContext *ctx, const At &at)
 static const ResponseChild *find_child(const MapContext *ctx, const char *tag, std::span<const ResponseChild> known,
                                        const ResponseRules &rules)
 {
-    if (rules.only_for_gets && ctx->request->request_info->kind != VMF_REQ_GET) return nullptr;
+    if (rules.only_for_gets && !is_get(ctx)) return nullptr;
     for (const ResponseChild &child : known)
         if (vmf_map_do_these_match(tag, child.tag) != 0) return &child;
     return nullptr;

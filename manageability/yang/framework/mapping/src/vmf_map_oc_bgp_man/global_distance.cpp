@@ -6,11 +6,7 @@
 #include "../vmf_map_oc_bgp_common/oc_handlers.h"
 
 // Kind 15 is an edit too, for this node alone.
-static bool is_edit(const MapContext *ctx)
-{
-    const uint32_t kind = ctx->request->request_info->kind;
-    return kind == VMF_REQ_EDIT || kind == 15;
-}
+static bool counts_as_edit(const MapContext *ctx) { return is_edit(ctx) || kind_of(ctx) == 15; }
 
 // ---- The families ---------------------------------------------------------------------------
 
@@ -119,7 +115,7 @@ static uint32_t write_family(MapContext *ctx, Datatree *node, Datatree *entry, b
 
 static uint32_t write_distances(MapContext *ctx, Datatree *node, Datatree *out, Children children)
 {
-    const bool sets = children.count > 0 && is_edit(ctx) && vmf_map_is_request_delete(children.first) == 0;
+    const bool sets = children.count > 0 && counts_as_edit(ctx) && vmf_map_is_request_delete(children.first) == 0;
     const Distances given = distances_of(children);
     Datatree *families = nullptr;
     if (uint32_t bad = add_families(ctx, out, &families)) return bad;
@@ -136,7 +132,7 @@ OC_MAN_CONT(_global_defaultroutedistance_config)
     if (uint32_t bad = enter(ctx, node, out)) return bad;
     Children children = {};
     if (uint32_t bad = vmf_map_get_subtrees(ctx, node, &children.first, &children.count)) return log_end(ctx, bad);
-    if (children.count == 0 && is_edit(ctx) && vmf_map_is_request_delete(node) == 0) {
+    if (children.count == 0 && counts_as_edit(ctx) && vmf_map_is_request_delete(node) == 0) {
         VMF_TRC(ctx, here(), "No subtrees");
         return log_end(ctx, VMF_RC_OK);
     }

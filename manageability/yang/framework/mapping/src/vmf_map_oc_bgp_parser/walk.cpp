@@ -1,9 +1,8 @@
 #include "walk.h"
 
 #include "../vmf_map_oc_bgp_common/frame.h"
+#include "../vmf_map_oc_bgp_common/kind.h"
 #include "../vmf_map_oc_bgp_common/node.h"
-
-static bool is_get(const MapContext *ctx) { return ctx->request->request_info->kind == VMF_REQ_GET; }
 
 static void reject(MapContext *ctx, const char *tag) { ctx->request->rejected_tag = vmf_strdup(tag, "VMF MAP"); }
 
@@ -154,7 +153,7 @@ static uint32_t enter_list(MapContext *ctx, Datatree *node, Children children, D
 
     Datatree *key = find_key(children, rule.key);
     if (key == nullptr) return VMF_RC_BAD_KEY;
-    if (ctx->request->request_info->kind == VMF_REQ_EDIT && !has_value(key)) {
+    if (is_edit(ctx) && !has_value(key)) {
         VMF_ERR(ctx, at, "Empty list key specified.");
         reject(ctx, nullptr);
         return VMF_RC_BAD_KEY;
