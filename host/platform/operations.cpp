@@ -17,7 +17,8 @@ extern "C" {
 
 uint32_t vmf_map_do_these_match(const char *a, const char *b)
 {
-    return a != nullptr && b != nullptr && *a == *b && std::strcmp(a, b) == 0 ? 1 : 0;
+    if (a == nullptr || b == nullptr || *a != *b) return 0;
+    return a == b || std::strcmp(a, b) == 0 ? 1 : 0;  // every add compares the namespace that it is given with itself
 }
 
 uint32_t vmf_map_is_request_delete(const Datatree *node)

@@ -186,7 +186,7 @@ enum : uint32_t {
 
 // ---- Namespaces -----------------------------------------------------------------------------
 
-constexpr char ZR_BGP_CFG_NS[] = "http://zorvex.example/ns/yang/Zorvex-ZR-ipv4-bgp-cfg";
-constexpr char ZR_BGP_OPER_NS[] = "http://zorvex.example/ns/yang/Zorvex-ZR-ipv4-bgp-oper";
-constexpr char OC_BGP_NS[] = "http://openconfig.net/yang/bgp";
-constexpr char OC_BGP_TYPES_NS[] = "http://openconfig.net/yang/bgp-types";
+inline constexpr char ZR_BGP_CFG_NS[] = "http://zorvex.example/ns/yang/Zorvex-ZR-ipv4-bgp-cfg";
+inline constexpr char ZR_BGP_OPER_NS[] = "http://zorvex.example/ns/yang/Zorvex-ZR-ipv4-bgp-oper";
+inline constexpr char OC_BGP_NS[] = "http://openconfig.net/yang/bgp";
+inline constexpr char OC_BGP_TYPES_NS[] = "http://openconfig.net/yang/bgp-types";
