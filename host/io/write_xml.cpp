@@ -44,12 +44,14 @@ bool has_operations(const Datatree &holder)
                        [](const Datatree &node) { return platform::has_operation(node) || has_operations(node); });
 }
 
-// The value with the prefix of its own namespace, if that is not the element's; the prefix is declared here.
+// The value with the prefix of its own namespace, if that is not the element's; the prefix is declared here. A name
+// with a colon has it always: what stands before the colon would be read as a prefix.
 std::string prefixed_value(xmlTextWriterPtr writer, const Datatree &node, const std::string &value)
 {
     const char *ns = platform::namespace_of(node);
     const char *data_ns = platform::data_namespace_of(node);
-    if (data_ns == nullptr || (ns != nullptr && std::string_view(ns) == data_ns)) return value;
+    if (data_ns == nullptr) return value;
+    if (ns != nullptr && std::string_view(ns) == data_ns && value.find(':') == std::string::npos) return value;
     const std::string known(short_name(data_ns));
     const std::string prefix = known.empty() ? "ns1" : known;
     write_attribute(writer, "xmlns:" + prefix, data_ns);

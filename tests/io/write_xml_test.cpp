@@ -97,6 +97,14 @@ TEST(WriteXml, MakesUpAPrefixForAnIdentityOfAnUnknownNamespace)
               "</data>\n");
 }
 
+// Without a prefix of its own, "p" would be read as one.
+TEST(WriteXml, WritesAnIdentityWithAColonWithAPrefixInAnyNamespace)
+{
+    EXPECT_EQ(content("a oc-bgp = oc-bgp:p:X\n"),
+              "  <a xmlns=\"http://openconfig.net/yang/bgp\" xmlns:oc-bgp=\"http://openconfig.net/yang/bgp\">"
+              "oc-bgp:p:X</a>\n");
+}
+
 TEST(WriteXml, EscapesWhatXmlTakesForItsOwn)
 {
     EXPECT_EQ(content("a oc-bgp = <b>&\"c'\nd <urn:\"&> = \"x\\ry\\n\\tz\"\n"),
