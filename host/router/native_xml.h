@@ -28,8 +28,8 @@ enum class Check { structure, model };
 // The data of a text with one `bgp` element. Throws BadXml.
 std::shared_ptr<Branch> read_xml(const std::string &text, const Schema &root, Check check);
 
-// Holds a text of write_xml() against the models. No other: it is read in the belief that everything stands in the order
-// of the model. Throws BadXml.
+// Holds a text of write_xml() against the models. No other: it is read in the belief that everything stands in the
+// order of the model. Throws BadXml.
 void check_xml(const std::string &text);
 
 }  // namespace router
