@@ -80,14 +80,25 @@ struct alignas(32) Room {
     const char *first_child;
     uint32_t count;
 };
+// Looked for by the addresses of names, and those are others in each process: two that fall on the same place must not
+// drive each other out, or what a list costs would go by luck.
 static Room &room_of(const Datatree &parent, ChildName added)
 {
+    constexpr size_t most_tried = 16;
     thread_local constinit std::array<Room, 256> rooms = {};
     const char *first_child = parent.subtree_count > 0 ? parent.subtrees->tag : added.tag;
     const uintptr_t hash = reinterpret_cast<uintptr_t>(parent.tag) / 8 + reinterpret_cast<uintptr_t>(first_child) / 16;
-    Room &room = rooms[hash % rooms.size()];
-    if (room.tag != parent.tag || room.first_child != first_child) room = {parent.tag, first_child, 0};
-    return room;
+    Room *unused = &rooms[hash % rooms.size()];
+    for (size_t i = 0; i < most_tried; i++) {
+        Room &room = rooms[(hash + i) % rooms.size()];
+        if (room.tag == parent.tag && room.first_child == first_child) return room;
+        if (room.first_child == nullptr) {
+            unused = &room;
+            break;
+        }
+    }
+    *unused = {parent.tag, first_child, 0};
+    return *unused;
 }
 
 // Doubles an array that is full, so that adding a child costs the same however many there are. What room there is, the

@@ -135,6 +135,25 @@ TEST(ChildArray, ANodeStaysWhereItIsWhenNothingIsAddedBesideIt)
     EXPECT_EQ(tree.root().subtrees, held);
 }
 
+// Wherever the names of its model lie in memory.
+TEST(ChildArray, AnEntryOfEachListHasItsRoomFromTheStart)
+{
+    constexpr int lists = 100;
+    constexpr unsigned leaves = 5;
+    platform::Tree tree;
+    for (int round = 0; round < 2; round++)
+        for (int list = 0; list < lists; list++) {
+            const std::string name = "list-" + std::to_string(list);
+            Datatree *entry = add(tree.root(), name.c_str(), {.repeat = 1});
+            add(*entry, ("key-" + std::to_string(list)).c_str());
+            const Datatree *first = entry->subtrees;
+            for (unsigned leaf = 1; leaf < leaves; leaf++) add(*entry, ("leaf-" + std::to_string(leaf)).c_str());
+            if (round == 0) continue;
+            EXPECT_EQ(entry->subtrees, first) << name;
+            EXPECT_EQ(entry->subtree_capacity, leaves) << name;
+        }
+}
+
 TEST(ChildArray, GrowsByDoubling)
 {
     platform::Tree tree;
