@@ -89,13 +89,6 @@ std::vector<std::string> entries_of(const Schema &list, const EntryKeys &keys)
     return {};
 }
 
-MadeRouter::MadeRouter(EntryKeys keys) : keys_(std::move(keys))
-{
-    make_entries(*config_, router::models().config);
-    make_entries(*operational_, router::models().operational);
-    set(*find_native("/bgp/instance/instance-as/four-byte-as/bgp-running"), "");
-}
-
 static Branch &entry_of(router::Member &list, const std::vector<std::string> &keys)
 {
     router::Entries &entries = router::own_entries(list);
@@ -103,18 +96,52 @@ static Branch &entry_of(router::Member &list, const std::vector<std::string> &ke
     return found != nullptr ? *found : entries.add(router::make_entry(*list.schema, keys));
 }
 
-void MadeRouter::make_entries(Branch &branch, const Schema &schema) const
+static void make_entries(Branch &branch, const Schema &schema, const EntryKeys &keys)
 {
     for (const Schema &child : schema.children) {
         if (child.kind == Schema::Kind::container) {
             Branch below;
-            make_entries(below, child);
+            make_entries(below, child, keys);
             if (!below.members.empty()) router::own_branch(router::member_of(branch, child)) = std::move(below);
         } else if (child.kind == Schema::Kind::list) {
-            for (const std::string &key : entries_of(child, keys_))
-                make_entries(entry_of(router::member_of(branch, child), {key}), child);
+            for (const std::string &key : entries_of(child, keys))
+                make_entries(entry_of(router::member_of(branch, child), {key}), child, keys);
         }
     }
+}
+
+namespace {
+
+// What a router holds that has nothing but its entries.
+struct Bare {
+    EntryKeys keys;
+    Branch config;
+    Branch operational;
+
+    explicit Bare(EntryKeys of) : keys(std::move(of))
+    {
+        make_entries(config, router::models().config, keys);
+        make_entries(operational, router::models().operational, keys);
+    }
+};
+
+}  // namespace
+
+// Many routers are made for a question, and most have the entries of the one before. They share what they do not
+// change.
+static const Bare &bare_of(const EntryKeys &keys)
+{
+    thread_local std::unique_ptr<const Bare> last;
+    if (last == nullptr || last->keys != keys) last = std::make_unique<const Bare>(keys);
+    return *last;
+}
+
+MadeRouter::MadeRouter(EntryKeys keys) : keys_(std::move(keys))
+{
+    const Bare &bare = bare_of(keys_);
+    *config_ = bare.config;
+    *operational_ = bare.operational;
+    set(*find_native("/bgp/instance/instance-as/four-byte-as/bgp-running"), "");
 }
 
 // ---- Leaves ---------------------------------------------------------------------------------

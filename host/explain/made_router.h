@@ -23,6 +23,8 @@ struct EntryKeys {
     std::string group = "UPSTREAM";
     std::vector<std::string> families = {};                      // native configuration words; empty: all twelve
     std::map<const router::Schema *, std::string> instead = {};  // one key for the entries of a list
+
+    bool operator==(const EntryKeys &) const = default;
 };
 
 // Each with one key; empty for a list that a made router has no entries of.
@@ -58,7 +60,6 @@ public:
     MadeRouter &operator=(const MadeRouter &) = delete;
 
 private:
-    void make_entries(router::Branch &branch, const router::Schema &schema) const;
     EntryKeys keys_;
     std::shared_ptr<router::Branch> config_ = std::make_shared<router::Branch>();
     std::shared_ptr<router::Branch> operational_ = std::make_shared<router::Branch>();
