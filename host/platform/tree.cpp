@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <bit>
 #include <cstring>
 #include <new>
 #include <string>
@@ -80,25 +81,23 @@ struct alignas(32) Room {
     const char *first_child;
     uint32_t count;
 };
-// Looked for by the addresses of names, and those are others in each process: two that fall on the same place must not
-// drive each other out, or what a list costs would go by luck.
+// Looked for by the addresses of names, and those are others in each process. A set has eight places, and who comes
+// anew takes that of the oldest: those in use do not drive each other out, or what a list costs would go by luck.
 static Room &room_of(const Datatree &parent, ChildName added)
 {
-    constexpr size_t most_tried = 16;
-    thread_local constinit std::array<Room, 256> rooms = {};
+    constexpr size_t ways = 8;
+    constexpr unsigned set_bits = 6;
+    thread_local constinit std::array<std::array<Room, ways>, size_t{1} << set_bits> sets = {};
     const char *first_child = parent.subtree_count > 0 ? parent.subtrees->tag : added.tag;
-    const uintptr_t hash = reinterpret_cast<uintptr_t>(parent.tag) / 8 + reinterpret_cast<uintptr_t>(first_child) / 16;
-    Room *unused = &rooms[hash % rooms.size()];
-    for (size_t i = 0; i < most_tried; i++) {
-        Room &room = rooms[(hash + i) % rooms.size()];
+    constexpr uint64_t spread = 0x9E3779B97F4A7C15;
+    const uint64_t hash =
+        (reinterpret_cast<uintptr_t>(parent.tag) + std::rotl(uint64_t{reinterpret_cast<uintptr_t>(first_child)}, 32)) *
+        spread;
+    std::array<Room, ways> &set = sets[hash >> (64 - set_bits)];
+    for (Room &room : set)
         if (room.tag == parent.tag && room.first_child == first_child) return room;
-        if (room.first_child == nullptr) {
-            unused = &room;
-            break;
-        }
-    }
-    *unused = {parent.tag, first_child, 0};
-    return *unused;
+    std::shift_right(set.begin(), set.end(), 1);
+    return set.front() = {parent.tag, first_child, 0};
 }
 
 // Doubles an array that is full, so that adding a child costs the same however many there are. What room there is, the

@@ -135,12 +135,15 @@ TEST(ChildArray, ANodeStaysWhereItIsWhenNothingIsAddedBesideIt)
     EXPECT_EQ(tree.root().subtrees, held);
 }
 
-// Wherever the names of its model lie in memory.
+// Wherever the names of its model lie in memory, and whatever other lists there were before.
 TEST(ChildArray, AnEntryOfEachListHasItsRoomFromTheStart)
 {
-    constexpr int lists = 100;
+    constexpr int lists_before = 1000;
+    constexpr int lists = 50;
     constexpr unsigned leaves = 5;
     platform::Tree tree;
+    for (int list = 0; list < lists_before; list++)
+        add(*add(tree.root(), ("before-" + std::to_string(list)).c_str()), "key");
     for (int round = 0; round < 2; round++)
         for (int list = 0; list < lists; list++) {
             const std::string name = "list-" + std::to_string(list);
